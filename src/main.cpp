@@ -1,0 +1,21 @@
+#include <QApplication>
+
+#include "grid/form1.h"
+#include "platform/disk_file_ops.h"
+#include "platform/qt_dialogs.h"
+#include "platform/system_launcher.h"
+
+int main(int argc, char* argv[]) {
+    QApplication app(argc, argv);
+    umbrakit::DiskFileOps files;
+    umbrakit::QtDialogs dialogs;
+    umbrakit::SystemLauncher launcher;
+    umbrakit::Services services{QCoreApplication::applicationDirPath(), files, dialogs, launcher,
+                                [] {
+                                    for (QWidget* window : QApplication::topLevelWidgets())
+                                        window->hide();
+                                    QCoreApplication::exit(0);
+                                }};
+    const auto form = umbrakit::Form1::start(services);
+    return app.exec();
+}

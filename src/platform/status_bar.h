@@ -1,0 +1,22 @@
+// A status bar in simple style: one text across its whole width, readable by screen readers.
+#pragma once
+
+#include <QStatusBar>
+
+class QLabel;
+
+namespace umbrakit {
+
+class StatusBar : public QStatusBar {
+    Q_OBJECT
+public:
+    explicit StatusBar(QWidget* parent = nullptr);
+
+    QString SimpleText() const;
+    void setSimpleText(const QString& text);
+
+private:
+    QLabel* text_;
+};
+
+} // namespace umbrakit
