@@ -10,13 +10,14 @@
 #include "platform/services.h"
 
 class QCheckBox;
-class QGroupBox;
+
 class QLabel;
 class QMenu;
 class QPushButton;
 
 namespace umbrakit {
 
+class ClassicFrame;
 class ClickCheckBox;
 class ComboList;
 class FormTimer;
@@ -50,11 +51,11 @@ public:
     QPushButton* ClearAll;
     std::array<QCheckBox*, 256> CheckBoxArray;
     std::array<QLabel*, 32> Label; // Label[0] is Label1
-    QGroupBox* Frame1;
+    ClassicFrame* Frame1;
     ClickCheckBox* TerrainCheck;
     ClickCheckBox* MergeCheck;
     ClickCheckBox* ObjectCheck;
-    QGroupBox* Frame2;
+    ClassicFrame* Frame2;
     QPushButton* lmList_Button;
     QPushButton* Go_Button;
     StatusBar* StatusBar1;

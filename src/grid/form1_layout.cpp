@@ -1,6 +1,6 @@
 // The controls of the main window, each at its place and size.
 #include <QCheckBox>
-#include <QGroupBox>
+
 #include <QLabel>
 #include <QMenuBar>
 #include <QPalette>
@@ -11,6 +11,7 @@
 #include "grid/world_size.h"
 #include "platform/accessible_names.h"
 #include "platform/classic_font.h"
+#include "platform/classic_frame.h"
 #include "platform/click_check_box.h"
 #include "platform/combo_list.h"
 #include "platform/form_timer.h"
@@ -85,7 +86,7 @@ void Form1::buildControls() {
         CheckBoxArray[i] = patch;
     }
 
-    Frame1 = place(new QGroupBox("Options", client), "Frame1", 0, 5880, 2535, 1170);
+    Frame1 = place(new ClassicFrame("Options", client), "Frame1", 0, 5880, 2535, 1170);
     TerrainCheck = place(new ClickCheckBox("Generate &TerrainShadows", Frame1), "TerrainCheck",
                          105, 210, 2220, 225);
     MergeCheck =
@@ -93,7 +94,7 @@ void Form1::buildControls() {
     ObjectCheck = place(new ClickCheckBox("Generate &ObjectShadows", Frame1), "ObjectCheck", 105,
                         840, 2220, 225);
 
-    Frame2 = place(new QGroupBox("Execute", client), "Frame2", 2625, 5880, 2325, 1170);
+    Frame2 = place(new ClassicFrame("Execute", client), "Frame2", 2625, 5880, 2325, 1170);
     lmList_Button = place(new QPushButton("&Export lmList.dat", Frame2), "lmList_Button", 210, 210,
                           1995, 375);
     Go_Button = place(new QPushButton("Run &Lighting", Frame2), "Go_Button", 210, 700, 2010, 375);

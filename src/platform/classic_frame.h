@@ -1,0 +1,25 @@
+// A frame whose caption sits on its top border line, so that controls placed 14 pixels below
+// the frame's top stand inside it, clear of the caption.
+#pragma once
+
+#include <QFrame>
+
+class QLabel;
+
+namespace umbrakit {
+
+class ClassicFrame : public QFrame {
+    Q_OBJECT
+public:
+    ClassicFrame(const QString& caption, QWidget* parent);
+
+    QString title() const;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QLabel* caption_;
+};
+
+} // namespace umbrakit
