@@ -19,9 +19,11 @@ namespace umbrakit {
 namespace {
 const char* const kReadOnly = "The file is read-only.";
 
+// The file's own read-only mark, not whether this user could write it anyway: an
+// administrator may write everything, yet a file marked read-only is one the user protects.
 bool isReadOnlyFile(const QString& path) {
     const QFileInfo info(path);
-    return info.exists() && info.isFile() && !info.isWritable();
+    return info.isFile() && !(info.permissions() & QFileDevice::WriteOwner);
 }
 
 bool flushToDisk(QFile& file) {
