@@ -7,6 +7,7 @@
 
 #include "paths_dialog/paths_dialog.h"
 #include "peripheral/frm_about.h"
+#include "peripheral/resources.h"
 #include "platform/click_check_box.h"
 #include "platform/combo_list.h"
 #include "platform/form_timer.h"
@@ -17,6 +18,7 @@
 namespace umbrakit {
 
 Form1::Form1(Services& services) : cDialog(services.dialogs), services(services) {
+    loadResources();
     buildControls();
     buildMenu();
     connectHandlers();

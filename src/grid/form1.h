@@ -28,7 +28,7 @@ class StatusBar;
 
 class Form1 : public QMainWindow {
     Q_OBJECT
-public:
+  public:
     explicit Form1(Services& services);
     ~Form1() override;
 
@@ -105,10 +105,10 @@ public:
 
     Services& services;
 
-protected:
+  protected:
     void closeEvent(QCloseEvent* event) override;
 
-private:
+  private:
     void buildControls();
     void buildMenu();
     void connectHandlers();

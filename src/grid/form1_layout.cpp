@@ -51,8 +51,8 @@ void Form1::buildControls() {
     client->setFixedSize(twips(kClientWidth), twips(kStatusTop));
     setCentralWidget(client);
 
-    TitleLabel = place(new QLabel("Umbrakit and lmList.dat Generator", client), "TitleLabel", 15,
-                       0, 4905, 465);
+    TitleLabel = place(new QLabel("Umbrakit and lmList.dat Generator", client), "TitleLabel", 15, 0,
+                       4905, 465);
     TitleLabel->setAlignment(Qt::AlignCenter);
     TitleLabel->setWordWrap(true);
     TitleLabel->setFont(labelFont(true));
@@ -60,26 +60,25 @@ void Form1::buildControls() {
     Combo1 = place(new ComboList(client), "Combo1", 30, 510, 1035, 315);
     Combo1->setAccessibleName("World size");
     CheckAll = place(new QPushButton("Select &All", client), "CheckAll", 1155, 510, 1755, 315);
-    ClearAll =
-        place(new QPushButton("&Clear Selection", client), "ClearAll", 3000, 510, 1965, 315);
+    ClearAll = place(new QPushButton("&Clear Selection", client), "ClearAll", 3000, 510, 1965, 315);
 
     for (int c = 0; c < kGridSide; ++c) {
         const QByteArray name = "Label" + QByteArray::number(c + 1);
-        Label[c] = place(new QLabel(twoDigits(c), client), name.constData(), 225 + 300 * c, 885,
-                         240, 240);
+        Label[c] =
+            place(new QLabel(twoDigits(c), client), name.constData(), 225 + 300 * c, 885, 240, 240);
     }
     for (int r = 0; r < kGridSide; ++r) {
         const QByteArray name = "Label" + QByteArray::number(32 - r);
-        Label[31 - r] = place(new QLabel(twoDigits(r), client), name.constData(), 0,
-                              5610 - 300 * r, 240, 240);
+        Label[31 - r] =
+            place(new QLabel(twoDigits(r), client), name.constData(), 0, 5610 - 300 * r, 240, 240);
     }
     for (QLabel* label : Label)
         label->setAlignment(Qt::AlignCenter);
 
     for (int i = 0; i < kPatchCount; ++i) {
         const QByteArray name = "CheckBoxArray_" + QByteArray::number(i);
-        QCheckBox* patch = place(new QCheckBox(client), name.constData(), 225 + 300 * patchColumn(i),
-                                 5610 - 300 * patchRow(i), 240, 240);
+        QCheckBox* patch = place(new QCheckBox(client), name.constData(),
+                                 225 + 300 * patchColumn(i), 5610 - 300 * patchRow(i), 240, 240);
         patch->setEnabled(false);
         patch->setAccessibleName(
             QString("Patch column %1, row %2").arg(patchColumn(i)).arg(patchRow(i)));
@@ -87,16 +86,16 @@ void Form1::buildControls() {
     }
 
     Frame1 = place(new ClassicFrame("Options", client), "Frame1", 0, 5880, 2535, 1170);
-    TerrainCheck = place(new ClickCheckBox("Generate &TerrainShadows", Frame1), "TerrainCheck",
-                         105, 210, 2220, 225);
-    MergeCheck =
-        place(new ClickCheckBox("&Merge TerrainShadows", Frame1), "MergeCheck", 105, 525, 2220, 225);
+    TerrainCheck = place(new ClickCheckBox("Generate &TerrainShadows", Frame1), "TerrainCheck", 105,
+                         210, 2220, 225);
+    MergeCheck = place(new ClickCheckBox("&Merge TerrainShadows", Frame1), "MergeCheck", 105, 525,
+                       2220, 225);
     ObjectCheck = place(new ClickCheckBox("Generate &ObjectShadows", Frame1), "ObjectCheck", 105,
                         840, 2220, 225);
 
     Frame2 = place(new ClassicFrame("Execute", client), "Frame2", 2625, 5880, 2325, 1170);
-    lmList_Button = place(new QPushButton("&Export lmList.dat", Frame2), "lmList_Button", 210, 210,
-                          1995, 375);
+    lmList_Button =
+        place(new QPushButton("&Export lmList.dat", Frame2), "lmList_Button", 210, 210, 1995, 375);
     Go_Button = place(new QPushButton("Run &Lighting", Frame2), "Go_Button", 210, 700, 2010, 375);
     // Fusion draws a button in its palette colour on every platform; the native styles may not.
     Go_Button->setStyle(QStyleFactory::create("Fusion"));
@@ -155,8 +154,8 @@ void Form1::buildMenu() {
 }
 
 void Form1::setTabOrder() {
-    QList<QWidget*> order{Combo1,      CheckAll,    ClearAll,      TerrainCheck,
-                          MergeCheck,  ObjectCheck, lmList_Button, Go_Button};
+    QList<QWidget*> order{Combo1,     CheckAll,    ClearAll,      TerrainCheck,
+                          MergeCheck, ObjectCheck, lmList_Button, Go_Button};
     for (QCheckBox* patch : CheckBoxArray)
         order << patch;
     for (int i = 0; i + 1 < order.size(); ++i)

@@ -18,12 +18,24 @@ void flip(MenuEntry* entry, qint16& field) {
 }
 } // namespace
 
-void Form1::menuRunTerrain_Click() { toggleValue(TerrainCheck); }
-void Form1::menuRunMerge_Click() { toggleValue(MergeCheck); }
-void Form1::menuRunObject_Click() { toggleValue(ObjectCheck); }
+void Form1::menuRunTerrain_Click() {
+    toggleValue(TerrainCheck);
+}
+void Form1::menuRunMerge_Click() {
+    toggleValue(MergeCheck);
+}
+void Form1::menuRunObject_Click() {
+    toggleValue(ObjectCheck);
+}
 
-void Form1::TerrainCheck_Click() { flip(menuRunTerrain, terrainBoolean); }
-void Form1::MergeCheck_Click() { flip(menuRunMerge, mergeBoolean); }
-void Form1::ObjectCheck_Click() { flip(menuRunObject, objectBoolean); }
+void Form1::TerrainCheck_Click() {
+    flip(menuRunTerrain, terrainBoolean);
+}
+void Form1::MergeCheck_Click() {
+    flip(menuRunMerge, mergeBoolean);
+}
+void Form1::ObjectCheck_Click() {
+    flip(menuRunObject, objectBoolean);
+}
 
 } // namespace umbrakit

@@ -12,7 +12,7 @@ namespace umbrakit {
 
 class FrmAboutWindow : public QDialog {
     Q_OBJECT
-public:
+  public:
     FrmAboutWindow();
 
     QPushButton* cmdOK;
@@ -23,7 +23,7 @@ public:
 };
 
 class FrmAbout {
-public:
+  public:
     void Show(); // loads the window if needed and shows it, modeless and without owner
     void Unload();
     void cmdOK_Click() { Unload(); }
@@ -31,7 +31,7 @@ public:
     bool isLoaded() const { return !window_.isNull(); }
     FrmAboutWindow* window() const { return window_; }
 
-private:
+  private:
     QPointer<FrmAboutWindow> window_;
 };
 

@@ -10,15 +10,15 @@ namespace umbrakit {
 
 class ClassicFrame : public QFrame {
     Q_OBJECT
-public:
+  public:
     ClassicFrame(const QString& caption, QWidget* parent);
 
     QString title() const;
 
-protected:
+  protected:
     void resizeEvent(QResizeEvent* event) override;
 
-private:
+  private:
     QLabel* caption_;
 };
 

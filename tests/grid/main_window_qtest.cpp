@@ -31,12 +31,14 @@ void chooseRow(QComboBox* combo, int row) {
     combo->showPopup();
     QAbstractItemView* view = combo->view();
     const QRect rect = view->visualRect(view->model()->index(row, 0));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, rect.center());
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                      QPoint(rect.left() + 4, rect.center().y()));
 }
 
 // The caption is drawn whole: the room the style gives the text holds all of it.
 bool captionFits(QAbstractButton* button) {
-    const int text = button->fontMetrics().horizontalAdvance(captionWithoutAccessKey(button->text()));
+    const int text =
+        button->fontMetrics().horizontalAdvance(captionWithoutAccessKey(button->text()));
     if (auto* box = qobject_cast<QCheckBox*>(button)) {
         QStyleOptionButton option;
         option.initFrom(box);
@@ -54,7 +56,7 @@ void tick(QCheckBox* patch) {
 
 class MainWindowTest : public QObject {
     Q_OBJECT
-private slots:
+  private slots:
     void placesAndSizesFollowTheTwipsTables() {
         TestApp app;
         Form1& form = *app.form;
@@ -107,15 +109,16 @@ private slots:
         QVERIFY(!bar[2]->menu());
         QStringList file;
         for (QAction* action : form.menuFile->actions())
-            file << action->objectName() + ":" + action->text() + ":" + action->shortcut().toString();
+            file << action->objectName() + ":" + action->text() + ":" +
+                        action->shortcut().toString();
         QCOMPARE(file, QStringList({"menuFileSave:&Save:Ctrl+S", "menuFileLoad:&Load:Ctrl+L",
                                     "seperator1::", "menuFilePaths:Set &Paths:Ctrl+P",
                                     "seperator2::", "menuFileExit:E&xit:"}));
         QStringList run;
         for (QAction* action : form.menuRun->actions())
             run << action->text() + ":" + action->shortcut().toString();
-        QCOMPARE(run, QStringList({"Export &lmList.dat:Ctrl+E", ":", "&Options:", ":",
-                                   "&Go!:Ctrl+G"}));
+        QCOMPARE(run,
+                 QStringList({"Export &lmList.dat:Ctrl+E", ":", "&Options:", ":", "&Go!:Ctrl+G"}));
         QCOMPARE(form.menuRunObject->text(), QString("&Generate ObjectShadows"));
         QCOMPARE(form.ObjectCheck->text(), QString("Generate &ObjectShadows"));
     }
@@ -126,9 +129,9 @@ private slots:
         form.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&form));
         QCOMPARE(QApplication::focusWidget(), form.Combo1);
-        QList<QWidget*> expected{form.CheckAll,    form.ClearAll,      form.TerrainCheck,
-                                 form.MergeCheck,  form.ObjectCheck,   form.lmList_Button,
-                                 form.Go_Button,   form.CheckBoxArray[0], form.CheckBoxArray[1]};
+        QList<QWidget*> expected{form.CheckAll,   form.ClearAll,         form.TerrainCheck,
+                                 form.MergeCheck, form.ObjectCheck,      form.lmList_Button,
+                                 form.Go_Button,  form.CheckBoxArray[0], form.CheckBoxArray[1]};
         for (QWidget* next : expected) {
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
             QCOMPARE(QApplication::focusWidget(), next);

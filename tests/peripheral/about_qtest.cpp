@@ -11,7 +11,7 @@ using namespace umbrakit;
 
 class AboutTest : public QObject {
     Q_OBJECT
-private slots:
+  private slots:
     void opensOnceAndClosesByOkEnterEscOrBorder() {
         TestApp app;
         app.form->menuAbout->trigger();

@@ -16,13 +16,14 @@ void chooseRow(QComboBox* combo, int row) {
     combo->showPopup();
     QAbstractItemView* view = combo->view();
     const QRect rect = view->visualRect(view->model()->index(row, 0));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, rect.center());
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                      QPoint(rect.left() + 4, rect.center().y()));
 }
 } // namespace
 
 class ControlsTest : public QObject {
     Q_OBJECT
-private slots:
+  private slots:
     void aListSelectsOnlyWhenTold() {
         ComboList list;
         QSignalSpy clicks(&list, &ComboList::Click);
@@ -60,6 +61,7 @@ private slots:
             list.AddItem(row);
         list.setListIndex(0);
         list.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&list));
         QSignalSpy clicks(&list, &ComboList::Click);
         chooseRow(&list, 2);
         QCOMPARE(list.ListIndex(), 2);

@@ -32,7 +32,7 @@ QByteArray contentOf(const QString& path) {
 
 class SystemBoxesTest : public QObject {
     Q_OBJECT
-private slots:
+  private slots:
     void theMessageBoxAnswersTheProgramsCodes() {
         QtDialogs dialogs;
         QString title;
@@ -68,8 +68,8 @@ private slots:
             name->setText("new list.dat");
             QTest::keyClick(name, Qt::Key_Return);
         });
-        const QString answer =
-            dialogs.showOpen({"lmList.dat|lmList.dat|All Files (*.*)|*.*", "lmList.dat", dir.path()});
+        const QString answer = dialogs.showOpen(
+            {"lmList.dat|lmList.dat|All Files (*.*)|*.*", "lmList.dat", dir.path()});
         QCOMPARE(answer, QDir::toNativeSeparators(dir.filePath("new list.dat")));
 
         whenShown<QFileDialog>([](QFileDialog* dialog) { dialog->reject(); });

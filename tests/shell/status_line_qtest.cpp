@@ -10,7 +10,7 @@ using namespace umbrakit;
 
 class StatusLineTest : public QObject {
     Q_OBJECT
-private slots:
+  private slots:
     void aTimedTextReturnsToReadyOnce() {
         TestApp app;
         QCOMPARE(app.status(), QString("Ready."));
