@@ -1,13 +1,29 @@
-// Starts go.bat with the system's batch processor: cmd on Windows, Wine's elsewhere.
+// Starts go.bat with the system's batch processor: cmd on Windows, Wine elsewhere.
 #pragma once
+
+#include <QStringList>
 
 #include "platform/launcher.h"
 
 namespace umbrakit {
 
+// The program that runs a script, and the arguments that come before the script's path.
+struct BatchProcessor {
+    QString program;              // a name looked up on the search path, or a full path
+    QStringList leadingArguments; // on Windows the path after them is quoted for cmd /s /c
+};
+
 class SystemLauncher : public Launcher {
-public:
+  public:
+    // The system's own batch processor: cmd.exe on Windows, elsewhere Wine if it is installed.
+    SystemLauncher();
+    // Another program in its place, such as a stand-in that a test can watch.
+    explicit SystemLauncher(BatchProcessor processor);
+
     LaunchResult startScript(const QString& scriptPath) override;
+
+  private:
+    BatchProcessor processor_;
 };
 
 } // namespace umbrakit
