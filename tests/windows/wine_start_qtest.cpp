@@ -1,0 +1,89 @@
+// The real start on Linux: "&Go!" writes go.bat and hands it to Wine through the program's own
+// SystemLauncher, and the stand-in BF1942.exe records how Wine's cmd started it. Run by ctest,
+// which builds the stand-in (UMBRAKIT_STAND_IN) and makes the Wine prefix (WINEPREFIX).
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include "grid/form1.h"
+#include "platform/click_check_box.h"
+#include "platform/disk_file_ops.h"
+#include "platform/menu_entry.h"
+#include "platform/scripted_dialogs.h"
+#include "platform/status_bar.h"
+#include "platform/system_launcher.h"
+
+using namespace umbrakit;
+
+namespace {
+QByteArrayList linesOf(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QByteArrayList lines = file.readAll().split('\n');
+    lines.removeLast(); // what follows the last line end
+    return lines;
+}
+
+// Wine shows the whole Unix file system as drive Z:.
+QString onDriveZ(QString unixPath) {
+    return "Z:" + unixPath.replace('/', '\\');
+}
+} // namespace
+
+class WineStartTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void goStartsTheEngineThroughWineAndReturnsAtOnce();
+};
+
+void WineStartTest::goStartsTheEngineThroughWineAndReturnsAtOnce() {
+    const QString standIn = qEnvironmentVariable("UMBRAKIT_STAND_IN");
+    QVERIFY2(!standIn.isEmpty() && qEnvironmentVariableIsSet("WINEPREFIX"),
+             "run through ctest: it builds the stand-in engine and makes the Wine prefix");
+    QTemporaryDir root;
+    const QString appDir = root.filePath("Umbrakit");
+    const QString gameDir = root.filePath("Games/BF1942");
+    QVERIFY(QDir().mkpath(appDir) && QDir().mkpath(gameDir));
+    QVERIFY(QFile::copy(standIn, gameDir + "/BF1942.exe"));
+
+    DiskFileOps files;
+    ScriptedDialogs dialogs;
+    SystemLauncher launcher;
+    Services services{appDir, files, dialogs, launcher, [] {}};
+    const auto form = Form1::start(services);
+    form->gamePath = onDriveZ(gameDir);
+    form->levelName = "MyLevel";
+    form->modName = "BF1942";
+    form->shadowDarkness = 1.5;
+    form->TerrainCheck->setValue(1);
+    form->MergeCheck->setValue(1);
+    form->ObjectCheck->setValue(1);
+
+    form->menuRunGo->trigger();
+
+    // Each start of the stand-in lasts 250 ms and Wine takes longer still to begin: a handler
+    // that waited for the script would come back to a complete log.
+    const QString log = gameDir + "/BF1942.log";
+    QCOMPARE_LT(linesOf(log).size(), 9);
+    QCOMPARE(form->StatusBar1->SimpleText(), "Running batch lighting... You may exit.");
+    QVERIFY(dialogs.boxes.isEmpty());
+
+    QTRY_COMPARE_WITH_TIMEOUT(linesOf(log).size(), 9, 30000);
+    const QByteArrayList records = linesOf(log);
+    const QByteArrayList script = linesOf(appDir + "/go.bat");
+    QCOMPARE(script.size(), 5);
+    const char* const options[] = {" +traceTerrainShadows ", " +mergeTerrainShadows ",
+                                   " +traceObjectShadows "};
+    for (int pass = 0; pass < 3; ++pass) {
+        const QByteArray line = script[pass + 2].chopped(1); // without its CR
+        QVERIFY2(line.contains(options[pass]), line);
+        QCOMPARE(records[3 * pass], "start " + line);
+        QCOMPARE(records[3 * pass + 1], "folder " + onDriveZ(gameDir).toUtf8());
+        QCOMPARE(records[3 * pass + 2], "end");
+    }
+}
+
+QTEST_MAIN(WineStartTest)
+#include "wine_start_qtest.moc"
