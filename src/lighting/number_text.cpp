@@ -55,6 +55,11 @@ std::string numberText(double value) {
         return value < 0 ? "-Inf" : "Inf";
     if (value == 0)
         return "0"; // also for -0, which to_chars would give as "-0"
+    // Rounded to 15 digits, the very largest doubles give 1.79769313486232E+308, beyond any
+    // double, a text that would not read back; they get the largest text that does.
+    constexpr double kLargestText = 1.79769313486231e308;
+    if (std::abs(value) > kLargestText)
+        value = std::copysign(kLargestText, value);
 
     // to_chars never looks at the locale; general form with 15 digits is what %.15G gives.
     std::array<char, 32> buffer{};

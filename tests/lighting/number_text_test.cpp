@@ -41,6 +41,8 @@ TEST_CASE("number text") {
             CHECK_MESSAGE(!textToNumber(text), "'", text, "'");
         for (double value : {1.5, -2.0, 0.35, 1e-5, 1e15, 1e300, 4.9e-324})
             CHECK(textToNumber(numberText(value)) == value);
+        // the very largest doubles round up past the largest double; their text must still read
+        CHECK(textToNumber(numberText(std::numeric_limits<double>::max())).has_value());
     }
     SUBCASE("a comma locale changes nothing") {
         std::string oldC = std::setlocale(LC_ALL, nullptr);

@@ -1,0 +1,52 @@
+# Fuzz tests (label "fuzz"): the fuzz targets in fuzz/ need clang and libFuzzer, whatever
+# compiler this build uses, so they get a small build of their own below the build folder,
+# made of the core's sources alone. A first test configures and builds it; then every target
+# runs for UMBRAKIT_FUZZ_SECONDS on a copy of its seed corpus in fuzz/corpus/<target>/.
+find_program(UMBRAKIT_FUZZ_COMPILER NAMES clang++ clang++-14
+    DOC "clang++ with libFuzzer, for the fuzz tests")
+if(NOT UMBRAKIT_FUZZ_COMPILER)
+    message(STATUS "clang++ not found: no fuzz tests (tools/install-deps installs it)")
+    return()
+endif()
+set(UMBRAKIT_FUZZ_SECONDS 20 CACHE STRING "How long each fuzz test runs, in seconds")
+
+set(fuzz_build ${CMAKE_BINARY_DIR}/fuzz)
+set(fuzz_source ${CMAKE_SOURCE_DIR}/fuzz)
+get_target_property(fuzz_core_sources umbrakit_core SOURCES)
+list(TRANSFORM fuzz_core_sources PREPEND ${CMAKE_SOURCE_DIR}/)
+# The list goes through the test's command line as one argument.
+string(REPLACE ";" "\\;" fuzz_core_sources "${fuzz_core_sources}")
+
+add_test(NAME fuzz_configure_targets
+    COMMAND ${CMAKE_COMMAND} -S ${fuzz_source} -B ${fuzz_build}/targets
+        -DCMAKE_CXX_COMPILER=${UMBRAKIT_FUZZ_COMPILER}
+        "-DUMBRAKIT_CORE_SOURCES=${fuzz_core_sources}")
+add_test(NAME fuzz_compile_targets COMMAND ${CMAKE_COMMAND} --build ${fuzz_build}/targets -j2)
+set_tests_properties(fuzz_configure_targets PROPERTIES
+    FIXTURES_SETUP fuzz_configured LABELS fuzz)
+set_tests_properties(fuzz_compile_targets PROPERTIES
+    FIXTURES_REQUIRED fuzz_configured FIXTURES_SETUP fuzz_targets LABELS fuzz TIMEOUT 600)
+
+# Target name and the longest input it is given: the config.ini reader gets room for very
+# long lines.
+foreach(target_and_length config_reader:16384 config_round_trip:8192 batch_script:4096
+        lmlist:2048)
+    string(REPLACE ":" ";" target_and_length ${target_and_length})
+    list(GET target_and_length 0 target)
+    list(GET target_and_length 1 max_len)
+    set(dict "")
+    if(target MATCHES "^config_")
+        set(dict -DDICT=${fuzz_source}/config.dict)
+    endif()
+    add_test(NAME fuzz_${target}
+        COMMAND ${CMAKE_COMMAND}
+            -DFUZZER=${fuzz_build}/targets/${target}_fuzz
+            -DSEEDS=${fuzz_source}/corpus/${target}
+            -DWORK=${fuzz_build}/runs/${target}
+            -DSECONDS=${UMBRAKIT_FUZZ_SECONDS}
+            -DMAX_LEN=${max_len} ${dict}
+            -P ${fuzz_source}/run_fuzz_target.cmake)
+    math(EXPR timeout "${UMBRAKIT_FUZZ_SECONDS} + 120")
+    set_tests_properties(fuzz_${target} PROPERTIES
+        FIXTURES_REQUIRED fuzz_targets LABELS fuzz TIMEOUT ${timeout})
+endforeach()
