@@ -4,11 +4,11 @@ namespace umbrakit {
 
 FileResult replaceWhole(FileOps& files, const QString& path, const QString& tempPath,
                         const QByteArray& bytes) {
-    if (files.exists(tempPath)) {
-        if (FileResult removed = files.remove(tempPath); !removed)
-            return removed;
-    }
-    FileResult result = files.writeNew(tempPath, bytes);
+    // A temporary file left by an earlier run is never used; if it cannot go now, the cleanup
+    // below tries once more, so that it is gone afterwards all the same.
+    FileResult result = files.exists(tempPath) ? files.remove(tempPath) : FileResult::success();
+    if (result)
+        result = files.writeNew(tempPath, bytes);
     if (result)
         result = files.renameOver(tempPath, path);
     if (!result && files.exists(tempPath))
