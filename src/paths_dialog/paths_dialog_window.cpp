@@ -1,7 +1,7 @@
 // The controls of the paths dialog, each at its place and size.
 #include "paths_dialog/paths_dialog_window.h"
 
-#include <QGroupBox>
+#include "platform/classic_frame.h"
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -78,7 +78,7 @@ PathsDialogWindow::PathsDialogWindow()
 
     Delete = place(new QPushButton("Delete", this), "Delete", 5670, 0, 960, 330);
     SavedSettings = place(new ComboList(this), "SavedSettings", 1365, 0, 4215, 315);
-    Frame1 = place(new QGroupBox("Paths", this), "Frame1", 0, 315, 6630, 2640);
+    Frame1 = place(new ClassicFrame("Paths", this), "Frame1", 0, 315, 6630, 2640);
     Label5 = label("Load Setting:", this, "Label5", 105, 0, 1170, 330);
     namedAfter(SavedSettings, Label5);
 

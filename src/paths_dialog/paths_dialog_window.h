@@ -4,13 +4,14 @@
 
 #include <QDialog>
 
-class QGroupBox;
+
 class QLabel;
 class QLineEdit;
 class QPushButton;
 
 namespace umbrakit {
 
+class ClassicFrame;
 class ClickCheckBox;
 class ComboList;
 
@@ -21,7 +22,7 @@ class PathsDialogWindow : public QDialog {
 
     QPushButton* Delete;
     ComboList* SavedSettings;
-    QGroupBox* Frame1;
+    ClassicFrame* Frame1;
     QLabel* Label5;
 
     // Inside Frame1.

