@@ -16,8 +16,8 @@
 #include "platform/combo_list.h"
 #include "platform/form_timer.h"
 #include "platform/menu_entry.h"
+#include "platform/placement.h"
 #include "platform/status_bar.h"
-#include "platform/twips.h"
 
 namespace umbrakit {
 
@@ -26,14 +26,6 @@ constexpr int kClientWidth = 4950;
 constexpr int kClientHeight = 7350;
 constexpr int kStatusTop = 7065;
 constexpr int kTimerInterval = 7500;
-
-template <typename Widget>
-Widget* place(Widget* widget, const char* name, int left, int top, int width, int height) {
-    widget->setObjectName(name);
-    widget->setGeometry(twipsRect(left, top, width, height));
-    nameForScreenReaders(widget);
-    return widget;
-}
 
 QString twoDigits(int number) {
     return QString::number(number).rightJustified(2, '0');

@@ -11,21 +11,13 @@
 #include "platform/classic_font.h"
 #include "platform/click_check_box.h"
 #include "platform/combo_list.h"
-#include "platform/twips.h"
+#include "platform/placement.h"
 
 namespace umbrakit {
 
 namespace {
 constexpr int kClientWidth = 6630;
 constexpr int kClientHeight = 2970;
-
-template <typename Widget>
-Widget* place(Widget* widget, const char* name, int left, int top, int width, int height) {
-    widget->setObjectName(name);
-    widget->setGeometry(twipsRect(left, top, width, height));
-    nameForScreenReaders(widget);
-    return widget;
-}
 
 // Where the classic font is missing, its stand-in may run wider: the caption is then set a
 // little narrower until it fits the control, never cut off.
@@ -66,15 +58,8 @@ ClickCheckBox* passBox(const QString& caption, QWidget* parent, const char* name
 }
 } // namespace
 
-PathsDialogWindow::PathsDialogWindow()
-    : QDialog(nullptr, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::CustomizeWindowHint |
-                           Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
-    setObjectName("PathsDialog");
-    setWindowTitle("Set Paths...");
-    setFont(defaultControlFont());
-    setAttribute(Qt::WA_DeleteOnClose);
-    setAttribute(Qt::WA_QuitOnClose, false); // only the main window decides the program's end
-    setFixedSize(twips(kClientWidth), twips(kClientHeight));
+PathsDialogWindow::PathsDialogWindow() : QDialog(nullptr, kFixedDialogFlags) {
+    setUpFixedDialog(*this, "PathsDialog", "Set Paths...", kClientWidth, kClientHeight);
 
     Delete = place(new QPushButton("Delete", this), "Delete", 5670, 0, 960, 330);
     SavedSettings = place(new ComboList(this), "SavedSettings", 1365, 0, 4215, 315);

@@ -5,29 +5,13 @@
 
 #include "platform/accessible_names.h"
 #include "platform/classic_font.h"
-#include "platform/twips.h"
+#include "platform/placement.h"
 
 namespace umbrakit {
 
-namespace {
-template <typename Widget>
-Widget* place(Widget* widget, const char* name, int left, int top, int width, int height) {
-    widget->setObjectName(name);
-    widget->setGeometry(twipsRect(left, top, width, height));
-    nameForScreenReaders(widget);
-    return widget;
-}
-} // namespace
-
-FrmAboutWindow::FrmAboutWindow()
-    : QDialog(nullptr, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::CustomizeWindowHint |
-                           Qt::WindowTitleHint | Qt::WindowCloseButtonHint) {
-    setObjectName("frmAbout");
-    setWindowTitle("About...");
-    setFont(defaultControlFont());
-    setAttribute(Qt::WA_DeleteOnClose);
-    setGeometry(twipsRect(2340, 1935, 4965, 1650));
-    setFixedSize(twips(4965), twips(1650));
+FrmAboutWindow::FrmAboutWindow() : QDialog(nullptr, kFixedDialogFlags) {
+    setUpFixedDialog(*this, "frmAbout", "About...", 4965, 1650);
+    setGeometry(twipsRect(2340, 1935, 4965, 1650)); // the client area's place is fixed, not centred
 
     cmdOK = place(new QPushButton("OK", this), "cmdOK", 1890, 1260, 1260, 345);
     cmdOK->setDefault(true);
