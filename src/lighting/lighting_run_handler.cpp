@@ -7,6 +7,7 @@
 
 #include "grid/form1.h"
 #include "lighting/batch_script.h"
+#include "lighting/script_hazards.h"
 #include "platform/ansi_text.h"
 #include "platform/form_timer.h"
 #include "platform/status_bar.h"
@@ -50,6 +51,27 @@ std::optional<ScriptValues> scriptValuesOf(const Form1& form, Dialogs& dialogs) 
     }
     return values;
 }
+
+// go.bat is written as it stands, but a character that the batch processor reads otherwise
+// would send the engine elsewhere and cost hours of lighting: the user decides.
+bool hazardsAccepted(const ScriptValues& values, Dialogs& dialogs) {
+    const std::vector<ScriptHazard> hazards = scriptHazards(values);
+    if (hazards.empty())
+        return true;
+    const char* const labels[] = {"Game Path", "Level Name", "Mod Name"};
+    QString prompt = "go.bat will not reach the engine as written:\n";
+    for (const ScriptHazard& hazard : hazards) {
+        const QString character = fromAnsi(std::string(1, char(hazard.character)));
+        const QString why = hazard.character >= 0x80
+                                ? "the batch processor reads it in the console's code page and "
+                                  "passes the engine another letter"
+                                : "the batch processor takes it as its own";
+        prompt += QString("\n- The %1 holds \"%2\": %3.").arg(labels[hazard.field], character, why);
+    }
+    prompt += "\n\nRun the lighting anyway?";
+    return dialogs.msgBox(prompt, MsgBoxStyle::YesNo | MsgBoxStyle::Exclamation, QString()) ==
+           MsgBoxResult::Yes;
+}
 } // namespace
 
 void Form1::Go_Button_Click() {
@@ -62,7 +84,7 @@ void Form1::Go_Button_Click() {
     // After a refusal or a failure the line keeps its text and goes back to rest on Timer1, as
     // after a failed export; it never says that lighting runs.
     const std::optional<ScriptValues> values = scriptValuesOf(*this, services.dialogs);
-    if (!values) {
+    if (!values || !hazardsAccepted(*values, services.dialogs)) {
         Timer1->setEnabled(true);
         return;
     }

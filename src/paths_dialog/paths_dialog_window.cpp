@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <limits>
 
 #include "platform/accessible_names.h"
 #include "platform/classic_font.h"
@@ -93,6 +94,10 @@ PathsDialogWindow::PathsDialogWindow() : QDialog(nullptr, kFixedDialogFlags) {
     namedAfter(LevelName_Text, Label2);
     namedAfter(ModName_Text, Label3);
     namedAfter(shadow_Text, Label4);
+    // A value of config.ini is shown whole however long it is, or a save would write it cut.
+    for (QLineEdit* box :
+         {SettingName_Text, GamePath_Text, LevelName_Text, ModName_Text->lineEdit(), shadow_Text})
+        box->setMaxLength(std::numeric_limits<int>::max());
 
     setTabOrder();
 }
