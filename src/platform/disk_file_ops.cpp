@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <fcntl.h>
 #include <unistd.h>
 #endif
 
@@ -109,6 +110,14 @@ FileResult DiskFileOps::renameOver(const QString& from, const QString& to) {
 #else
     if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
         return FileResult::failure(QString::fromLocal8Bit(std::strerror(errno)));
+    // The rename itself reaches the disk only with its folder; without this a power cut could
+    // bring back the old file after the user was told the new one is saved.
+    const int folder = ::open(QFile::encodeName(QFileInfo(to).absolutePath()).constData(),
+                              O_RDONLY | O_DIRECTORY);
+    if (folder >= 0) {
+        ::fsync(folder);
+        ::close(folder);
+    }
     return FileResult::success();
 #endif
 }
