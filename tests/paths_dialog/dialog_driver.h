@@ -21,8 +21,12 @@ inline PathsDialogWindow& openPaths(TestApp& app) {
     return *app.form->pathsDialog()->window();
 }
 
-// Replaces the text as a user does after selecting all; a character that no key gives comes
-// through the input method.
+inline PathsDialogWindow& reopenPaths(TestApp& app) { // a fresh load
+    app.form->pathsDialog()->Unload();
+    return openPaths(app);
+}
+
+// Replaces the text as a user does; a character that no key gives comes by the input method.
 inline void type(QLineEdit* box, const QString& text) {
     box->selectAll();
     QTest::keyClick(box, Qt::Key_Delete);
@@ -32,9 +36,6 @@ inline void type(QLineEdit* box, const QString& text) {
         c.unicode() < 0x80 ? QTest::keyClick(box, c.toLatin1())
                            : void(QApplication::sendEvent(box, &composed));
     }
-}
-inline void type(ComboList* box, const QString& text) {
-    type(box->lineEdit(), text);
 }
 
 inline void click(QPushButton* button) {
@@ -60,8 +61,12 @@ inline void saveAs(PathsDialogWindow& w, const QString& name) {
     click(w.Save);
 }
 
-inline int boxesOn(const PathsDialogWindow& w) { // the pass boxes as three bits, terrain high
-    return w.TerrainCheck->Value() * 4 + w.MergeCheck->Value() * 2 + w.ObjectCheck->Value();
+// name|game|level|mod|darkness|pass boxes, e.g. "101" for terrain and object.
+inline QString texts(const PathsDialogWindow& w) {
+    const auto on = [](const ClickCheckBox* box) { return QString::number(box->Value()); };
+    return w.SettingName_Text->text() + "|" + w.GamePath_Text->text() + "|" +
+           w.LevelName_Text->text() + "|" + w.ModName_Text->Text() + "|" + w.shadow_Text->text() +
+           "|" + on(w.TerrainCheck) + on(w.MergeCheck) + on(w.ObjectCheck);
 }
 
 // The eight lines of a record as config.ini holds them; passes as "101" for terrain and object.
@@ -72,5 +77,16 @@ inline QByteArray record(const QByteArray& name, const QByteArray& game, const Q
            "\r\nmodName=" + mod + "\r\nterrainBoolean=" + word(0) + "\r\nmergeBoolean=" + word(1) +
            "\r\nobjectBoolean=" + word(2) + "\r\nshadowDarkness=" + darkness + "\r\n";
 }
+
+inline QByteArray numbered(int first, int last) { // records "N<first>" to "N<last>"
+    QByteArray records;
+    for (int i = first; i <= last; ++i)
+        records += record("N" + QByteArray::number(i), "g", "l", "m", "000", "1");
+    return records;
+}
+
+inline const QByteArray kWake = record("Wake", "D:\\BF", "Wake", "BF1942", "100", "1.5");
+inline const QByteArray kMidway = record("Midway", "E:\\BF", "Midway", "DesertCombat", "011", "2");
+inline const QByteArray kBerlin = record("Berlin", "F:\\BF", "Berlin", "EoD", "000", "0.5");
 
 } // namespace umbrakit

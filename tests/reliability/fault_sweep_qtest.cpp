@@ -1,7 +1,8 @@
-// Every file operation of every command that writes a file fails in turn: the first, the
-// second, ... until a run completes. After each failure the user has been told, the files the
-// user keeps are byte for byte what they were, and no temporary file is left.
+// Every file operation of every command that writes a file fails in turn, until a run
+// completes. After each failure the user has been told, the kept files are byte for byte what
+// they were, no temporary file is left and the window is as before.
 #include <QDir>
+#include <QFileInfo>
 #include <QtTest>
 #include <functional>
 
@@ -11,122 +12,95 @@
 using namespace umbrakit;
 
 namespace {
-const QByteArray kWake = record("Wake", "D:\\Saved Games\\BF1942", "Wake", "BF1942", "100", "1.5");
-const QByteArray kMidway = record("Midway", "E:\\BF", "Midway", "DesertCombat", "011", "2");
-const QByteArray kBerlin = record("Berlin", "F:\\BF", "Berlin", "EoD", "000", "0.5");
-const QString kRunning = "Running batch lighting... You may exit.";
-const QStringList kAllRows{"(Current)", "Wake", "Midway", "Berlin"};
-
-// The files a run must never lose, as they stand before it: an old script longer than the new
-// one, so that a leftover line would show.
+// An old script longer than the new one, so that a leftover line would show.
 const QMap<QString, QByteArray> kKept{
     {"config.ini", kWake + kMidway + kBerlin},
     {"lmList.dat", "old list"},
     {"go.bat", "@echo an earlier script\r\n@rem none of whose lines may survive a new run\r\n"}};
 
-struct Problems {
-    QStringList found;
-    void expect(bool holds, const QString& what) {
-        if (!holds)
-            found << what;
-    }
-};
-
 struct Command {
     const char* name;
-    QString file;       // the file it writes, which must be whole after a failure
-    QString temp;       // the new file beside it until the rename
-    QByteArray written; // that file once a run completes
-    int questions;      // boxes of a run without failure
-    int fewestPoints;   // operations it makes at least: a shorter sweep has missed some
+    QString file, temp;  // the file it writes, and the new one beside it until the rename
+    QByteArray written;  // that file once a run completes
+    int questions;       // boxes of a run without failure
+    int fewestPoints;    // a shorter sweep has missed operations
+    QString failedState; // stateOf() after a failure, and after the run that completes
+    QString doneState;
     std::function<void(TestApp&)> prepare, run;
-    // The rest of the state after a failure (failed) or after the run that completed.
-    std::function<void(TestApp&, bool failed, Problems&)> state;
 };
 
-PathsDialogWindow& dialogOf(TestApp& app) {
-    return *app.form->pathsDialog()->window();
+// The status line, Timer1, what was started and the dialog's rows, selection and texts.
+QString stateOf(TestApp& app) {
+    QString state = app.status() + (app.form->Timer1->Enabled() ? " +timer" : "");
+    for (const QString& started : app.launcher.started)
+        state += " started " + QFileInfo(started).fileName();
+    if (const PathsDialog* dialog = app.form->pathsDialog(); dialog && dialog->isLoaded())
+        state += QString(" %1@%2 ")
+                     .arg(rowsOf(dialog->window()->SavedSettings).join(','))
+                     .arg(dialog->window()->SavedSettings->ListIndex()) +
+                 texts(*dialog->window());
+    return state;
 }
 
-void dialogShows(TestApp& app, const QStringList& rows, int selected, const QString& texts,
-                 Problems& p) {
-    PathsDialogWindow& w = dialogOf(app);
-    p.expect(rowsOf(w.SavedSettings) == rows, "rows " + rowsOf(w.SavedSettings).join(','));
-    p.expect(w.SavedSettings->ListIndex() == selected, "selected row");
-    p.expect(w.SettingName_Text->text() + w.LevelName_Text->text() == texts, "name and level");
-}
-
-void chooseMidway(TestApp& app) {
-    choose(openPaths(app).SavedSettings, 2);
-}
+const QString kMidwayChanged = "Midway|E:\\BF|changed|DesertCombat|2|011";
 
 const Command kCommands[] = {
     {"export", "lmList.dat", "lmList.dat.tmp", QByteArray("\x00\x00", 2), 1, 3,
+     "Preparing to Save... +timer", "Saved! +timer",
      [](TestApp& app) {
          app.form->CheckBoxArray[0]->setChecked(true);
          app.dialogs.fileAnswers.enqueue(app.path("lmList.dat"));
          app.dialogs.boxAnswers.enqueue(MsgBoxResult::Yes); // overwrite the old list
      },
-     [](TestApp& app) { QTest::mouseClick(app.form->lmList_Button, Qt::LeftButton); },
-     [](TestApp& app, bool failed, Problems& p) {
-         p.expect((app.status() == "Saved!") != failed, "status " + app.status());
-         p.expect(app.form->Timer1->Enabled(), "Timer1 started");
-     }},
+     [](TestApp& app) { click(app.form->lmList_Button); }},
     {"lighting run", "go.bat", "go.bat.tmp", "@cd D:\\Games\\BF1942\r\n@D:\r\n", 0, 3,
+     "Ready. +timer", "Running batch lighting... You may exit. +timer started go.bat",
      [](TestApp& app) {
          app.form->gamePath = "D:\\Games\\BF1942";
          app.form->levelName = "MyLevel";
          app.form->modName = "BF1942";
-         app.form->shadowDarkness = 1.5;
      },
-     [](TestApp& app) { QTest::mouseClick(app.form->Go_Button, Qt::LeftButton); },
-     [](TestApp& app, bool failed, Problems& p) {
-         p.expect(app.launcher.started ==
-                      (failed ? QStringList() : QStringList{app.path("go.bat")}),
-                  "started " + app.launcher.started.join(','));
-         p.expect((app.status() == kRunning) != failed, "status " + app.status());
-         p.expect(app.form->Timer1->Enabled(), "Timer1 started");
-     }},
+     [](TestApp& app) { click(app.form->Go_Button); }},
     {"save", "config.ini", "config.tmp",
      kWake + kBerlin + record("Midway", "E:\\BF", "changed", "DesertCombat", "011", "2"), 0, 4,
+     "Ready. (Current),Wake,Midway,Berlin@2 " + kMidwayChanged,
+     "Ready. (Current),Wake,Berlin,Midway@3 " + kMidwayChanged,
      [](TestApp& app) {
-         chooseMidway(app);
-         type(dialogOf(app).LevelName_Text, "changed");
+         PathsDialogWindow& w = openPaths(app);
+         choose(w.SavedSettings, 2);
+         type(w.LevelName_Text, "changed");
      },
-     [](TestApp& app) { click(dialogOf(app).Save); },
-     [](TestApp& app, bool failed, Problems& p) {
-         dialogShows(app, failed ? kAllRows : QStringList{"(Current)", "Wake", "Berlin", "Midway"},
-                     failed ? 2 : 3, "Midwaychanged", p);
-     }},
-    {"delete", "config.ini", "config.tmp", kWake + kBerlin, 0, 4, chooseMidway,
-     [](TestApp& app) { click(dialogOf(app).Delete); },
-     [](TestApp& app, bool failed, Problems& p) {
-         // Row 0 shows the current configuration again, whose level name is empty.
-         dialogShows(app, failed ? kAllRows : QStringList{"(Current)", "Wake", "Berlin"}, 0,
-                     "Midway", p);
-     }},
+     [](TestApp& app) { click(app.form->pathsDialog()->window()->Save); }},
+    {"delete", "config.ini", "config.tmp", kWake + kBerlin, 0, 4,
+     "Ready. (Current),Wake,Midway,Berlin@0 Midway||||1.5|000",
+     "Ready. (Current),Wake,Berlin@0 Midway||||1.5|000",
+     [](TestApp& app) { choose(openPaths(app).SavedSettings, 2); },
+     [](TestApp& app) { click(app.form->pathsDialog()->window()->Delete); }},
 };
 
 // What must hold after every run, failed or not; empty when all holds.
-QStringList problemsAfter(TestApp& app, const Command& command, bool failed) {
-    Problems p;
+QStringList problemsAfter(TestApp& app, const Command& c, bool failed) {
+    QStringList found;
+    const auto expect = [&found](bool holds, const QString& what) {
+        if (!holds)
+            found << what;
+    };
     for (auto kept = kKept.begin(); kept != kKept.end(); ++kept) {
-        const bool changes = !failed && kept.key() == command.file;
-        p.expect(app.bytesOf(kept.key()) == (changes ? command.written : kept.value()),
-                 kept.key() + (changes ? " not as written" : " changed"));
+        const bool changes = !failed && kept.key() == c.file;
+        expect(app.bytesOf(kept.key()) == (changes ? c.written : kept.value()),
+               kept.key() + (changes ? " not as written" : " changed"));
     }
     const QStringList files = QDir(app.dir.path()).entryList(QDir::Files | QDir::Hidden);
-    p.expect(files == QStringList(kKept.keys()), "files " + files.join(','));
-    p.expect(app.dialogs.boxes.size() == command.questions + (failed ? 1 : 0), "boxes");
-    if (failed && !app.dialogs.boxes.isEmpty()) {
-        const AskedBox& box = app.dialogs.boxes.constLast();
-        p.expect(box.buttons == MsgBoxStyle::Critical, "box icon");
-        p.expect(box.prompt.contains(QDir::toNativeSeparators(app.path(command.file))) &&
-                     box.prompt.contains("Injected failure."),
-                 "box " + box.prompt);
-    }
-    command.state(app, failed, p);
-    return p.found;
+    expect(files == QStringList(kKept.keys()), "files " + files.join(','));
+    expect(app.dialogs.boxes.size() == c.questions + (failed ? 1 : 0), "boxes");
+    const AskedBox box = app.dialogs.boxes.value(app.dialogs.boxes.size() - 1);
+    expect(!failed ||
+               (box.buttons == MsgBoxStyle::Critical && box.prompt.contains("Injected failure.") &&
+                box.prompt.contains(QDir::toNativeSeparators(app.path(c.file)))),
+           "box " + box.prompt);
+    const QString state = stateOf(app);
+    expect(state == (failed ? c.failedState : c.doneState), "state " + state);
+    return found;
 }
 } // namespace
 
@@ -146,8 +120,7 @@ class FaultSweepTest : public QObject {
             TestApp app;
             for (auto kept = kKept.begin(); kept != kKept.end(); ++kept)
                 app.write(kept.key(), kept.value());
-            // Left by a run that was killed: never read, and gone afterwards.
-            app.write(c.temp, "leftover");
+            app.write(c.temp, "leftover"); // left by a killed run: never read, gone afterwards
             c.prepare(app);
             app.files.operations = 0;
             app.files.journal.clear();

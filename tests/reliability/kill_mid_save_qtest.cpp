@@ -1,51 +1,67 @@
-// The paths dialog's Save killed at random instants: save_loop saves through the real dialog
-// on real files, and after every kill config.ini must be whole, the old content or the new,
-// with nothing beside it but a config.tmp that the next save discards.
+// The paths dialog's Save killed at random instants. The test starts itself as a writer that
+// saves one record through the real dialog on real files again and again, each time as the
+// other of two variants, and kills it: config.ini must then be the old content or the new, with
+// nothing beside it but a config.tmp that the next save discards.
 #include <QDir>
 #include <QProcess>
 #include <QRandomGenerator>
-#include <QTemporaryDir>
 #include <QtTest>
 #include <chrono>
 #include <thread>
 
-#include "reliability/saved_states.h"
+#include "paths_dialog/dialog_driver.h"
+#include "platform/disk_file_ops.h"
+#include "platform/text_lines.h"
 #include "saved/config_walk.h"
 
 using namespace umbrakit;
 
 namespace {
-// save_loop on one folder, from its start to its kill.
-struct Loop {
-    QProcess process;
-    bool start(const QString& folder) { // true once the loop saves
-        process.start(SAVE_LOOP, {folder});
-        return process.waitForReadyRead(10000) && process.readLine() == "saving\n";
-    }
-    // Counts the lines "saved" within the given time, for the length of one save.
-    int savesWithin(std::chrono::milliseconds time) {
-        std::this_thread::sleep_for(time);
-        process.waitForReadyRead(0);
-        return int(process.readAll().count("saved"));
-    }
-    bool kill() { // true if the loop was still saving
-        const bool running = process.state() == QProcess::Running;
-        process.kill();
-        process.waitForFinished();
-        return running && process.exitStatus() == QProcess::CrashExit;
-    }
-};
+// Of different length, so that a file cut short or mixed from both would show.
+const QByteArray kGamePath[] = {"C:\\BF1942", "D:\\Games\\BF1942 " + QByteArray(300, 'x')};
+const char* const kDarkness[] = {"1.5", "2.25"};
 
-bool isComplete(const QByteArray& bytes) {
-    const std::string text = bytes.toStdString();
-    const std::vector<std::string> names = readSavedNames(splitLines(text));
-    return (text == reliability::completeContent(0) || text == reliability::completeContent(1)) &&
-           names.size() == 4 && names.back() == reliability::kSavedName;
+QByteArray completeContent(int variant) { // three kept records, then the saved one
+    QByteArray kept;
+    for (const char* name : {"Kept 1", "Kept 2", "Kept 3"})
+        kept += record(name, "E:\\BF", name, "EoD", "110", "0.5");
+    return kept + record("Killed", kGamePath[variant], "Wake", "BF1942", "000", kDarkness[variant]);
 }
 
-QByteArray bytesOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+// The writer: prints "saving" as it starts and "saved" after every save, until it is killed.
+int saveLoop(const QString& folder) {
+    DiskFileOps files;
+    ScriptedDialogs dialogs;
+    FakeLauncher launcher;
+    Services services{folder, files, dialogs, launcher, [] {}};
+    const auto form = Form1::start(services);
+    form->menuFilePaths->trigger();
+    PathsDialogWindow& w = *form->pathsDialog()->window();
+    w.SettingName_Text->setText("Killed");
+    w.LevelName_Text->setText("Wake");
+    w.ModName_Text->setText("BF1942");
+    std::puts("saving");
+    for (int variant = 0;; variant = 1 - variant) {
+        std::fflush(stdout);
+        w.GamePath_Text->setText(kGamePath[variant]);
+        w.shadow_Text->setText(kDarkness[variant]);
+        w.Save->click();
+        if (!dialogs.boxes.isEmpty())
+            return 1; // a save that failed leaves no state the test could expect
+        std::puts("saved");
+    }
+}
+
+bool startLoop(QProcess& loop, const QString& folder) { // true once the loop saves
+    loop.start(QCoreApplication::applicationFilePath(), {"--save-loop", folder});
+    return loop.waitForReadyRead(10000) && loop.readLine() == "saving\n";
+}
+
+bool kill(QProcess& loop) { // true if the loop was still saving
+    const bool running = loop.state() == QProcess::Running;
+    loop.kill();
+    loop.waitForFinished();
+    return running && loop.exitStatus() == QProcess::CrashExit;
 }
 } // namespace
 
@@ -53,45 +69,42 @@ class KillMidSaveTest : public QObject {
     Q_OBJECT
   private slots:
     void configIniIsOldOrNewAfterEveryKill() {
-        const int kills = qEnvironmentVariableIntValue("UMBRAKIT_KILLS") > 0
-                              ? qEnvironmentVariableIntValue("UMBRAKIT_KILLS")
-                              : 1000;
-        QTemporaryDir dir;
-        const QString config = dir.filePath("config.ini");
-        QFile seed(config);
-        QVERIFY(seed.open(QIODevice::WriteOnly));
-        seed.write(QByteArray::fromStdString(reliability::completeContent(0)));
-        seed.close();
+        const int asked = qEnvironmentVariableIntValue("UMBRAKIT_KILLS");
+        const int kills = asked > 0 ? asked : 1000;
+        const QByteArray complete[] = {completeContent(0), completeContent(1)};
+        for (const QByteArray& content : complete)
+            QCOMPARE(readSavedNames(splitLines(content.toStdString())).size(), std::size_t(4));
+        TestApp folder; // only its folder: the writer runs on its own
+        folder.write("config.ini", complete[0]);
 
         // Kill instants are spread evenly over three saves, so every step of a save is hit.
-        Loop calibration;
-        QVERIFY2(calibration.start(dir.path()), "save_loop did not start");
-        const int saves = calibration.savesWithin(std::chrono::milliseconds(300));
-        QVERIFY2(calibration.kill() && saves > 0, "save_loop does not save");
+        QProcess calibration;
+        QVERIFY2(startLoop(calibration, folder.dir.path()), "the save loop did not start");
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        calibration.waitForReadyRead(0);
+        const int saves = int(calibration.readAll().count("saved"));
+        QVERIFY2(kill(calibration) && saves > 0, "the save loop does not save");
         const auto spread = std::chrono::microseconds(3 * 300000 / saves);
 
         int corrupt = 0, stray = 0, unkilled = 0, tmpLeft = 0;
-        for (int kill = 0; kill < kills; ++kill) {
-            Loop loop;
-            QVERIFY2(loop.start(dir.path()), "save_loop did not start");
+        for (int k = 0; k < kills; ++k) {
+            QProcess loop;
+            QVERIFY2(startLoop(loop, folder.dir.path()), "the save loop did not start");
             std::this_thread::sleep_for(spread * QRandomGenerator::global()->generateDouble());
-            if (!loop.kill())
-                ++unkilled;
-            const QByteArray bytes = bytesOf(config);
-            if (!isComplete(bytes)) {
+            unkilled += !kill(loop);
+            const QByteArray bytes = folder.bytesOf("config.ini");
+            if (bytes != complete[0] && bytes != complete[1]) {
                 ++corrupt;
-                qWarning("kill %d left config.ini as:\n%s", kill, bytes.left(200).constData());
+                qWarning("kill %d left config.ini as:\n%s", k, bytes.left(200).constData());
             }
             const QStringList files =
-                QDir(dir.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
+                QDir(folder.dir.path())
+                    .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
             tmpLeft += files.contains("config.tmp");
-            const QStringList known{"config.ini", "config.tmp"};
-            for (const QString& file : files)
-                stray += !known.contains(file);
+            stray += files.size() - files.contains("config.ini") - files.contains("config.tmp");
         }
         qInfo("kills: %d, corrupt files: %d, stray files: %d", kills, corrupt, stray);
-        qInfo("one save takes %.2f ms; %d kills left a config.tmp beside config.ini; %d found "
-              "the loop no longer saving",
+        qInfo("one save takes %.2f ms; %d kills left a config.tmp; %d found the loop not saving",
               300.0 / saves, tmpLeft, unkilled);
         QCOMPARE(corrupt, 0);
         QCOMPARE(stray, 0);
@@ -99,5 +112,13 @@ class KillMidSaveTest : public QObject {
     }
 };
 
-QTEST_GUILESS_MAIN(KillMidSaveTest)
+int main(int argc, char* argv[]) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    if (argc == 3 && QByteArray(argv[1]) == "--save-loop")
+        return saveLoop(QString::fromLocal8Bit(argv[2]));
+    KillMidSaveTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "kill_mid_save_qtest.moc"
