@@ -1,11 +1,14 @@
 // The three passes: check box, menu tick and field stay in step whichever way Value changes.
+// The paths dialog's OK, which sets Value too, is tested with that dialog.
 #include <QSignalSpy>
 #include <QtTest>
 #include <array>
+#include <functional>
 
 #include "platform/click_check_box.h"
 #include "platform/menu_entry.h"
 #include "support/test_app.h"
+#include "support/user_input.h"
 
 using namespace umbrakit;
 
@@ -16,102 +19,55 @@ struct Pass {
     qint16* field;
 };
 
-std::array<Pass, 3> passesOf(Form1& form) {
-    return {{{form.TerrainCheck, form.menuRunTerrain, &form.terrainBoolean},
-             {form.MergeCheck, form.menuRunMerge, &form.mergeBoolean},
-             {form.ObjectCheck, form.menuRunObject, &form.objectBoolean}}};
-}
-
-enum Route { UserClick, UserKey, MenuEntryChosen, ProgramSetsOther, ProgramSetsSame };
-
-void take(Route route, const Pass& pass) {
-    switch (route) {
-    case UserClick:
-        QTest::mouseClick(pass.box, Qt::LeftButton, {}, QPoint(6, pass.box->height() / 2));
-        break;
-    case UserKey:
-        QTest::keyClick(pass.box, Qt::Key_Space);
-        break;
-    case MenuEntryChosen:
-        pass.entry->trigger();
-        break;
-    case ProgramSetsOther:
-        pass.box->setValue(pass.box->Value() == 0 ? 1 : 0);
-        break;
-    case ProgramSetsSame:
-        pass.box->setValue(pass.box->Value());
-        break;
-    }
-}
-
-// The way the paths dialog's OK hands its own copy back: absolute Values, in pass order.
-void setLikePathsDialog(Form1& form, std::array<bool, 3> copy) {
-    const auto passes = passesOf(form);
-    for (int i = 0; i < 3; ++i)
-        passes[i].box->setValue(copy[i] ? 1 : 0);
-}
+const struct {
+    const char* name;
+    std::function<void(const Pass&)> take;
+    bool changes;
+} kRoutes[] = {
+    {"user click", [](const Pass& p) { clickBox(p.box); }, true},
+    {"space key", [](const Pass& p) { QTest::keyClick(p.box, Qt::Key_Space); }, true},
+    {"menu entry", [](const Pass& p) { p.entry->trigger(); }, true},
+    {"program sets the other Value", [](const Pass& p) { p.box->setValue(1 - p.box->Value()); },
+     true},
+    {"program sets the same Value", [](const Pass& p) { p.box->setValue(p.box->Value()); }, false},
+};
 } // namespace
 
 class PassOptionsTest : public QObject {
     Q_OBJECT
-
-    void verifyPasses(Form1& form, std::array<bool, 3> expected) {
-        const auto passes = passesOf(form);
-        for (int i = 0; i < 3; ++i) {
-            QCOMPARE(passes[i].box->Value(), expected[i] ? 1 : 0);
-            QCOMPARE(passes[i].entry->Checked(), expected[i]);
-            QCOMPARE(*passes[i].field, qint16(expected[i] ? -1 : 0));
-        }
-    }
-
   private slots:
-    void startOffWithTicksShown() {
-        TestApp app;
-        verifyPasses(*app.form, {false, false, false});
-        for (const Pass& pass : passesOf(*app.form))
-            QVERIFY(pass.entry->isCheckable());
-    }
-
     // Every route, twice on every pass: one Click per real change, none otherwise, and the
     // other passes never move.
     void everyRouteKeepsThePassInStep() {
         TestApp app;
-        const auto passes = passesOf(*app.form);
-        std::array<bool, 3> expected{};
+        Form1& form = *app.form;
+        const std::array<Pass, 3> passes{
+            {{form.TerrainCheck, form.menuRunTerrain, &form.terrainBoolean},
+             {form.MergeCheck, form.menuRunMerge, &form.mergeBoolean},
+             {form.ObjectCheck, form.menuRunObject, &form.objectBoolean}}};
+        std::array<bool, 3> on{}; // all off at start
+        auto verifyInStep = [&] {
+            for (int i = 0; i < 3; ++i) {
+                QCOMPARE(passes[i].box->Value(), on[i] ? 1 : 0);
+                QCOMPARE(passes[i].entry->Checked(), on[i]);
+                QCOMPARE(*passes[i].field, qint16(on[i] ? -1 : 0));
+                QVERIFY(passes[i].entry->isCheckable()); // the tick is shown
+            }
+        };
+        verifyInStep();
         for (int i = 0; i < 3; ++i) {
-            for (Route route :
-                 {UserClick, UserKey, MenuEntryChosen, ProgramSetsOther, ProgramSetsSame}) {
+            for (const auto& route : kRoutes) {
                 for (int twice = 0; twice < 2; ++twice) {
                     QSignalSpy clicks(passes[i].box, &ClickCheckBox::Click);
-                    take(route, passes[i]);
-                    const bool changes = route != ProgramSetsSame;
-                    expected[i] = expected[i] != changes;
-                    QCOMPARE(clicks.size(), changes ? 1 : 0);
-                    verifyPasses(*app.form, expected);
+                    route.take(passes[i]);
+                    on[i] = on[i] != route.changes;
+                    QVERIFY2(clicks.size() == (route.changes ? 1 : 0), route.name);
+                    verifyInStep();
                 }
             }
-            expected[i] = true; // leave this pass on while the next is tried
-            passes[i].box->setValue(1);
+            passes[i].box->setValue(1); // left on while the next is tried
+            on[i] = true;
         }
-    }
-
-    // A pass switched on the main window while the dialog is open is set back on OK; a pass
-    // that already has the dialog's state raises nothing.
-    void pathsDialogSetsItsCopy() {
-        TestApp app;
-        const auto passes = passesOf(*app.form);
-        passes[0].entry->trigger();
-        take(UserClick, passes[2]);
-        verifyPasses(*app.form, {true, false, true});
-
-        QSignalSpy terrain(passes[0].box, &ClickCheckBox::Click);
-        QSignalSpy merge(passes[1].box, &ClickCheckBox::Click);
-        QSignalSpy object(passes[2].box, &ClickCheckBox::Click);
-        setLikePathsDialog(*app.form, {false, true, true});
-        QCOMPARE(terrain.size(), 1);
-        QCOMPARE(merge.size(), 1);
-        QCOMPARE(object.size(), 0);
-        verifyPasses(*app.form, {false, true, true});
     }
 };
 
