@@ -14,8 +14,8 @@ std::vector<std::string> composeScriptLines(const ScriptValues& v) {
 
     std::vector<std::string> lines;
     lines.push_back("@cd " + v.gamePath);
-    // Switching to the drive needs "X:"; substr copes with a path of one or no character.
-    lines.push_back("@" + v.gamePath.substr(0, 2));
+    // Switching to the drive needs "X:"; append copes with a path of one or no character.
+    lines.push_back(std::string("@").append(v.gamePath, 0, 2));
     if (v.terrain)
         lines.push_back(prefix + " +traceTerrainShadows " + levelFolder + q + " " + q +
                         v.levelName + "\\lmList.dat" + q + " " + q + v.gamePath +
