@@ -21,11 +21,6 @@ using umbrakit::fuzz::require;
 
 namespace {
 
-// The key words in the order loading tests for them, as RecordKey numbers them.
-constexpr std::array<std::string_view, 7> kKeyWords{
-    "gamePath",     "levelName",     "modName",       "terrainBoolean",
-    "mergeBoolean", "objectBoolean", "shadowDarkness"};
-
 // Loading a name costs a pass over the file, so a file full of heads is sampled.
 constexpr std::size_t kNamesLoaded = 64;
 

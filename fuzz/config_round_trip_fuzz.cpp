@@ -30,10 +30,6 @@ using umbrakit::fuzz::require;
 
 namespace {
 
-constexpr std::array<std::string_view, 7> kKeyWords{
-    "gamePath",     "levelName",     "modName",       "terrainBoolean",
-    "mergeBoolean", "objectBoolean", "shadowDarkness"};
-
 // Above the 30 names of the table: the file itself has no limit.
 constexpr int kMostRecords = 40;
 constexpr std::size_t kLongestText = 300;

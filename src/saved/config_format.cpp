@@ -85,18 +85,9 @@ std::optional<bool> textToBoolean(std::string_view text) {
 }
 
 std::optional<RecordKey> keyOfLine(std::string_view line) {
-    static constexpr std::array<std::pair<std::string_view, RecordKey>, 7> keyWords{{
-        {"gamePath", RecordKey::GamePath},
-        {"levelName", RecordKey::LevelName},
-        {"modName", RecordKey::ModName},
-        {"terrainBoolean", RecordKey::TerrainBoolean},
-        {"mergeBoolean", RecordKey::MergeBoolean},
-        {"objectBoolean", RecordKey::ObjectBoolean},
-        {"shadowDarkness", RecordKey::ShadowDarkness},
-    }};
-    for (const auto& [word, key] : keyWords) {
-        if (line.find(word) != std::string_view::npos)
-            return key;
+    for (std::size_t key = 0; key < kKeyWords.size(); ++key) {
+        if (line.find(kKeyWords[key]) != std::string_view::npos)
+            return static_cast<RecordKey>(key);
     }
     return std::nullopt;
 }

@@ -2,6 +2,7 @@
 // a head line, then exactly seven value lines; no INI parsing is involved.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -56,6 +57,11 @@ enum class RecordKey {
     ObjectBoolean,
     ShadowDarkness
 };
+
+// The key words of the value lines, indexed by RecordKey.
+inline constexpr std::array<std::string_view, 7> kKeyWords{
+    "gamePath",     "levelName",     "modName",       "terrainBoolean",
+    "mergeBoolean", "objectBoolean", "shadowDarkness"};
 
 // The key a value line is applied to when loading: the first key word, in RecordKey order,
 // found anywhere in the whole line, value included. So a value holding an earlier key word
