@@ -6,9 +6,9 @@
 #include <QTemporaryDir>
 #include <memory>
 
-#include "grid/form1.h"
+#include "gui/main_window/main_window.h"
 #include "platform/launcher.h"
-#include "platform/scripted_dialogs.h"
+#include "support/scripted_dialogs.h"
 #include "timed_file_ops.h"
 
 namespace umbrakit::bench {

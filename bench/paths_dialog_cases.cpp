@@ -4,10 +4,10 @@
 #include <QLineEdit>
 
 #include "handler_cases.h"
-#include "paths_dialog/paths_dialog.h"
+#include "gui/paths_dialog/paths_dialog.h"
 #include "platform/combo_list.h"
-#include "platform/text_lines.h"
-#include "saved/config_format.h"
+#include "core/text_lines.h"
+#include "core/config_format.h"
 
 namespace umbrakit::bench {
 

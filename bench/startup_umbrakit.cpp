@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <QTemporaryDir>
 
-#include "grid/form1.h"
+#include "gui/main_window/main_window.h"
 #include "platform/disk_file_ops.h"
 #include "platform/qt_dialogs.h"
 #include "platform/system_launcher.h"

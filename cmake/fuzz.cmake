@@ -12,8 +12,7 @@ set(UMBRAKIT_FUZZ_SECONDS 20 CACHE STRING "How long each fuzz test runs, in seco
 
 set(fuzz_build ${CMAKE_BINARY_DIR}/fuzz)
 set(fuzz_source ${CMAKE_SOURCE_DIR}/fuzz)
-get_target_property(fuzz_core_sources umbrakit_core SOURCES)
-list(TRANSFORM fuzz_core_sources PREPEND ${CMAKE_SOURCE_DIR}/)
+file(GLOB fuzz_core_sources ${CMAKE_SOURCE_DIR}/src/core/*.cpp)
 # The list goes through the test's command line as one argument.
 string(REPLACE ";" "\\;" fuzz_core_sources "${fuzz_core_sources}")
 

@@ -2,8 +2,8 @@
 // subnormals, the largest values) and any passes, and checks the shape of the script and the
 // number text written into the merge line.
 #include "fuzz_check.h"
-#include "lighting/batch_script.h"
-#include "lighting/number_text.h"
+#include "core/batch_script.h"
+#include "core/number_text.h"
 
 #include <fuzzer/FuzzedDataProvider.h>
 

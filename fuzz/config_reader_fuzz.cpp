@@ -2,9 +2,9 @@
 // reaches them (lines without "=", CR without LF, NUL bytes, very long lines), and checks what
 // must hold whatever the file holds.
 #include "fuzz_check.h"
-#include "platform/text_lines.h"
-#include "saved/config_format.h"
-#include "saved/config_walk.h"
+#include "core/text_lines.h"
+#include "core/config_format.h"
+#include "core/config_walk.h"
 
 #include <algorithm>
 #include <array>

@@ -11,9 +11,9 @@
 // - A value may hold "Save". Readers step over the seven lines behind a head unseen, so such a
 //   value never becomes a head; this target is where that is proved.
 #include "fuzz_check.h"
-#include "platform/text_lines.h"
-#include "saved/config_format.h"
-#include "saved/config_walk.h"
+#include "core/text_lines.h"
+#include "core/config_format.h"
+#include "core/config_walk.h"
 
 #include <fuzzer/FuzzedDataProvider.h>
 

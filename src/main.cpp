@@ -1,6 +1,6 @@
 #include <QApplication>
 
-#include "grid/form1.h"
+#include "gui/main_window/main_window.h"
 #include "platform/disk_file_ops.h"
 #include "platform/qt_dialogs.h"
 #include "platform/system_launcher.h"

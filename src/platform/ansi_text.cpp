@@ -1,6 +1,6 @@
 #include "platform/ansi_text.h"
 
-#include "platform/codepage_1252.h"
+#include "core/codepage_1252.h"
 
 #ifdef Q_OS_WIN
 #include <windows.h>

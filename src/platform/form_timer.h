@@ -12,20 +12,17 @@ class FormTimer : public QObject {
 public:
     FormTimer(int intervalMs, QObject* parent = nullptr);
 
-    bool Enabled() const { return timer_.isActive(); }
+    bool Enabled() const { return timer_->isActive(); }
     void setEnabled(bool enabled);
-    int Interval() const { return timer_.interval(); }
-    void setInterval(int intervalMs) { timer_.setInterval(intervalMs); }
-    int remainingMs() const { return timer_.remainingTime(); }
-
-    // Lets a test end the running countdown now instead of waiting for it.
-    void elapseNow();
+    int Interval() const { return timer_->interval(); }
+    void setInterval(int intervalMs) { timer_->setInterval(intervalMs); }
+    int remainingMs() const { return timer_->remainingTime(); }
 
 signals:
     void Timer();
 
 private:
-    QTimer timer_;
+    QTimer* timer_;
 };
 
 } // namespace umbrakit

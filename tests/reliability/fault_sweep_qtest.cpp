@@ -6,7 +6,7 @@
 #include <QtTest>
 #include <functional>
 
-#include "paths_dialog/dialog_driver.h"
+#include "support/dialog_driver.h"
 #include "platform/form_timer.h"
 
 using namespace umbrakit;

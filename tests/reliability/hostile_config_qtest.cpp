@@ -5,11 +5,11 @@
 #include <QProcess>
 #include <QtTest>
 
-#include "lighting/number_text.h"
-#include "paths_dialog/dialog_driver.h"
+#include "core/number_text.h"
+#include "support/dialog_driver.h"
 #include "platform/ansi_text.h"
-#include "platform/text_lines.h"
-#include "saved/config_walk.h"
+#include "core/text_lines.h"
+#include "core/config_walk.h"
 
 using namespace umbrakit;
 

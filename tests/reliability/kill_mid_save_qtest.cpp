@@ -9,10 +9,10 @@
 #include <chrono>
 #include <thread>
 
-#include "paths_dialog/dialog_driver.h"
+#include "support/dialog_driver.h"
 #include "platform/disk_file_ops.h"
-#include "platform/text_lines.h"
-#include "saved/config_walk.h"
+#include "core/text_lines.h"
+#include "core/config_walk.h"
 
 using namespace umbrakit;
 

@@ -6,8 +6,8 @@
 #include <QTemporaryDir>
 #include <memory>
 
-#include "grid/form1.h"
-#include "platform/scripted_dialogs.h"
+#include "gui/main_window/main_window.h"
+#include "support/scripted_dialogs.h"
 #include "support/fake_launcher.h"
 #include "support/faulty_file_ops.h"
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "lighting/batch_script.h"
-#include "lighting/number_text.h"
+#include "core/batch_script.h"
+#include "core/number_text.h"
 
 int main(int argc, char** argv) {
     if (argc != 6) {

@@ -6,11 +6,11 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-#include "grid/form1.h"
+#include "gui/main_window/main_window.h"
 #include "platform/click_check_box.h"
 #include "platform/disk_file_ops.h"
 #include "platform/menu_entry.h"
-#include "platform/scripted_dialogs.h"
+#include "support/scripted_dialogs.h"
 #include "platform/status_bar.h"
 #include "platform/system_launcher.h"
 

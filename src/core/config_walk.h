@@ -1,0 +1,49 @@
+// The walks over the lines of config.ini: listing the names, rewriting the file and loading
+// one record. Lines come from splitLines; a missing file is simply no lines.
+#pragma once
+
+#include "core/config_format.h"
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace umbrakit {
+
+// The names of all heads in file order, empty names included, so the caller sees what a fill
+// of the name table would see. Walks record by record: the seven lines behind a head are
+// stepped over unseen, so a value holding "Save" never yields a name. Lines outside records
+// that are no heads are passed over. Returns every name; limiting to kSavedNameCapacity is
+// the caller's business.
+std::vector<std::string> readSavedNames(const std::vector<std::string>& lines);
+
+// The records that outlive a rewrite: each head whose name isListed, with the seven lines
+// behind it, unchanged. Unlisted records and stray lines are dropped.
+std::vector<std::string>
+survivingRecordLines(const std::vector<std::string>& lines,
+                     const std::function<bool(std::string_view name)>& isListed);
+
+// The complete new file: the surviving records, then newRecord (if any) last, every line
+// ended by CR LF. No records give the empty string, a file of 0 bytes.
+std::string rewrittenConfig(const std::vector<std::string>& lines,
+                            const std::function<bool(std::string_view name)>& isListed,
+                            const std::optional<SavedRecord>& newRecord);
+
+// What loading a saved name found. values is indexed by RecordKey; a key without a line
+// stays nullopt, so the caller leaves that field as it was. Boolean and number texts are not
+// converted here.
+struct RecordValues {
+    bool found = false;
+    std::array<std::optional<std::string>, 7> values;
+};
+
+// Loads the record headed exactly headFor(name). The first such head supplies the values from
+// the seven lines behind it, each going to the key keyOfLine finds (a later line overwrites an
+// earlier one for the same key); a line without a key word counts but changes nothing. The
+// seven lines are counted once per call, so a second identical head only sets found again.
+RecordValues findRecordValues(const std::vector<std::string>& lines, std::string_view name);
+
+} // namespace umbrakit
