@@ -24,7 +24,7 @@ struct BenchApp {
     ScriptedDialogs dialogs;
     StartedLauncher launcher;
     Services services{dir.path(), files, dialogs, launcher, [] {}};
-    std::unique_ptr<Form1> form = Form1::start(services);
+    std::unique_ptr<MainWindow> window = MainWindow::start(services);
 };
 
 } // namespace umbrakit::bench

@@ -2,7 +2,9 @@
 // grid and the lighting run.
 #include <QCheckBox>
 #include <QFileInfo>
+#include <QPushButton>
 
+#include "gui/main_window/patch_grid.h"
 #include "handler_cases.h"
 #include "platform/click_check_box.h"
 #include "platform/combo_list.h"
@@ -15,16 +17,16 @@ namespace {
 constexpr int k4x4 = 0;
 constexpr int k32x32 = 3;
 
-int tickedPatches(const Form1& form) {
+int tickedPatches(const MainWindow& form) {
     int ticked = 0;
-    for (const QCheckBox* patch : form.CheckBoxArray)
-        ticked += patch->isChecked() ? 1 : 0;
+    for (int i = 0; i < kPatchCount; ++i)
+        ticked += form.patchGrid->patch(i)->isChecked() ? 1 : 0;
     return ticked;
 }
 
-void chooseWorld(Form1& form, int index) {
-    if (form.Combo1->ListIndex() != index)
-        form.Combo1->setListIndex(index);
+void chooseWorld(MainWindow& form, int index) {
+    if (form.worldSizeList->ListIndex() != index)
+        form.worldSizeList->setListIndex(index);
 }
 
 QString expect(bool holds, const char* otherwise) {
@@ -32,32 +34,28 @@ QString expect(bool holds, const char* otherwise) {
 }
 
 // A configuration that runs all three passes.
-void completeConfiguration(Form1& form) {
-    form.gamePath = "C:\\Program Files\\EA GAMES\\Battlefield 1942";
-    form.levelName = "Berlin";
-    form.modName = "BF1942";
-    form.TerrainCheck->setValue(1);
-    form.MergeCheck->setValue(1);
-    form.ObjectCheck->setValue(1);
+void completeConfiguration(MainWindow& form) {
+    form.applyConfiguration({U"C:\\Program Files\\EA GAMES\\Battlefield 1942", U"Berlin",
+                             U"BF1942", 1.5, {true, true, true}});
 }
 } // namespace
 
 std::vector<HandlerCase> mainWindowCases(BenchApp& app) {
-    Form1& form = *app.form;
+    MainWindow& form = *app.window;
     std::vector<HandlerCase> cases;
 
     cases.push_back({"Combo1_Click 4x4 -> 32x32", [&form](int) { chooseWorld(form, k4x4); },
-                     [&form](int) { form.Combo1->setListIndex(k32x32); },
+                     [&form](int) { form.worldSizeList->setListIndex(k32x32); },
                      [&form] {
-                         return expect(form.CheckBoxArray[255]->isEnabled(),
+                         return expect(form.patchGrid->patch(255)->isEnabled(),
                                        "32x32 left the far corner disabled");
                      }});
     cases.push_back({"Combo1_Click 32x32 -> 4x4, all ticked",
                      [&form](int) {
                          chooseWorld(form, k32x32);
-                         form.CheckAll_Click();
+                         form.selectAllButton->click();
                      },
-                     [&form](int) { form.Combo1->setListIndex(k4x4); },
+                     [&form](int) { form.worldSizeList->setListIndex(k4x4); },
                      [&form] {
                          return expect(tickedPatches(form) == 16,
                                        "4x4 kept other ticks than its 16 patches");
@@ -65,16 +63,16 @@ std::vector<HandlerCase> mainWindowCases(BenchApp& app) {
     cases.push_back({"CheckAll_Click, 32x32",
                      [&form](int) {
                          chooseWorld(form, k32x32);
-                         form.ClearAll_Click();
+                         form.clearSelectionButton->click();
                      },
-                     [&form](int) { form.CheckAll_Click(); },
+                     [&form](int) { form.selectAllButton->click(); },
                      [&form] { return expect(tickedPatches(form) == 256, "not all ticked"); }});
     cases.push_back({"ClearAll_Click, 32x32",
                      [&form](int) {
                          chooseWorld(form, k32x32);
-                         form.CheckAll_Click();
+                         form.selectAllButton->click();
                      },
-                     [&form](int) { form.ClearAll_Click(); },
+                     [&form](int) { form.clearSelectionButton->click(); },
                      [&form] { return expect(tickedPatches(form) == 0, "ticks were left"); }});
 
     const QString lmList = app.dir.filePath("lmList.dat");
@@ -82,16 +80,16 @@ std::vector<HandlerCase> mainWindowCases(BenchApp& app) {
                      [&app, &form, lmList](int) {
                          chooseWorld(form, k32x32);
                          if (tickedPatches(form) != 256)
-                             form.CheckAll_Click();
+                             form.selectAllButton->click();
                          app.dialogs.boxes.clear();
                          app.dialogs.fileRequests.clear();
                          app.dialogs.fileAnswers.enqueue(lmList);
-                         app.dialogs.boxAnswers.enqueue(MsgBoxResult::Yes);
-                         form.Timer1->setEnabled(false);
+                         app.dialogs.boxAnswers.enqueue(MsgBoxAnswer::Yes);
+                         form.statusTimer->setEnabled(false);
                      },
-                     [&form](int) { form.lmList_Button_Click(); },
+                     [&form](int) { form.exportButton->click(); },
                      [&app, &form, lmList] {
-                         return expect(form.StatusBar1->SimpleText() == "Saved!" &&
+                         return expect(form.statusLine->SimpleText() == "Saved!" &&
                                            QFileInfo(lmList).size() == 512 &&
                                            app.dialogs.boxes.size() == 1,
                                        "the export did not overwrite the list with 256 records");
@@ -100,11 +98,11 @@ std::vector<HandlerCase> mainWindowCases(BenchApp& app) {
     cases.push_back({"Go_Button_Click, three passes",
                      [&form](int) {
                          completeConfiguration(form);
-                         form.Timer1->setEnabled(false);
+                         form.statusTimer->setEnabled(false);
                      },
-                     [&form](int) { form.Go_Button_Click(); },
+                     [&form](int) { form.runLightingButton->click(); },
                      [&app, &form] {
-                         return expect(form.StatusBar1->SimpleText() ==
+                         return expect(form.statusLine->SimpleText() ==
                                                "Running batch lighting... You may exit." &&
                                            QFileInfo(app.dir.filePath("go.bat")).size() > 0,
                                        "go.bat was not written and started");

@@ -3,11 +3,14 @@
 #include <QFile>
 #include <QLineEdit>
 
-#include "handler_cases.h"
-#include "gui/paths_dialog/paths_dialog.h"
-#include "platform/combo_list.h"
-#include "core/text_lines.h"
+#include <QPushButton>
+
 #include "core/config_format.h"
+#include "core/text_lines.h"
+#include "gui/paths_dialog/paths_dialog.h"
+#include "handler_cases.h"
+#include "platform/combo_list.h"
+#include "platform/menu_entry.h"
 
 namespace umbrakit::bench {
 
@@ -25,9 +28,7 @@ std::string thirtyRecords() {
                                  "C:\\Program Files\\EA GAMES\\Battlefield 1942",
                                  "level_" + std::to_string(i + 1),
                                  "BF1942",
-                                 i % 2 == 0,
-                                 i % 3 == 0,
-                                 i % 5 == 0,
+                                 {i % 2 == 0, i % 3 == 0, i % 5 == 0},
                                  "1." + std::to_string(i % 10)};
         for (std::string& line : recordLines(record))
             lines.push_back(std::move(line));
@@ -37,15 +38,15 @@ std::string thirtyRecords() {
 
 // The dialog open on the 30 records, as a user finds it after "Set Paths".
 PathsDialogWindow& openOnThirtyRecords(BenchApp& app) {
-    if (!app.form->pathsDialog() || !app.form->pathsDialog()->isLoaded()) {
+    if (!app.window->pathsDialog() || !app.window->pathsDialog()->isLoaded()) {
         QFile config(app.services.appFile("config.ini"));
         const std::string bytes = thirtyRecords();
         if (config.open(QIODevice::WriteOnly))
             config.write(bytes.data(), qint64(bytes.size()));
         config.close();
-        app.form->menuFilePaths_Click();
+        app.window->setPathsEntry->trigger();
     }
-    return *app.form->pathsDialog()->window();
+    return *app.window->pathsDialog()->window();
 }
 
 int headsInConfig(const BenchApp& app) {
@@ -60,10 +61,10 @@ std::vector<HandlerCase> pathsDialogCases(BenchApp& app) {
     std::vector<HandlerCase> cases;
     cases.push_back({"Save_Click: RewriteConfig, 30 records",
                      [&app](int) {
-                         openOnThirtyRecords(app).SettingName_Text->setText(nameOf(kRecords - 1));
+                         openOnThirtyRecords(app).nameBox->setText(nameOf(kRecords - 1));
                          app.dialogs.boxes.clear();
                      },
-                     [&app](int) { app.form->pathsDialog()->Save_Click(); },
+                     [&app](int) { app.window->pathsDialog()->window()->saveButton->click(); },
                      [&app] {
                          return app.dialogs.boxes.isEmpty() && headsInConfig(app) == kRecords
                                     ? QString()
@@ -73,14 +74,14 @@ std::vector<HandlerCase> pathsDialogCases(BenchApp& app) {
                      [&app](int) { openOnThirtyRecords(app); },
                      // Rows 1 to 29 in turn: the last record is the one Save rewrites.
                      [&app](int i) {
-                         app.form->pathsDialog()->window()->SavedSettings->setListIndex(
+                         app.window->pathsDialog()->window()->savedList->setListIndex(
                              1 + (i + kRecords) % (kRecords - 1));
                      },
                      [&app] {
-                         const PathsDialogWindow& w = *app.form->pathsDialog()->window();
-                         const int row = w.SavedSettings->ListIndex();
-                         return w.SettingName_Text->text() == nameOf(row - 1) &&
-                                        w.LevelName_Text->text() == QString("level_%1").arg(row)
+                         const PathsDialogWindow& w = *app.window->pathsDialog()->window();
+                         const int row = w.savedList->ListIndex();
+                         return w.nameBox->text() == nameOf(row - 1) &&
+                                        w.levelBox->text() == QString("level_%1").arg(row)
                                     ? QString()
                                     : QString("the saved row was not loaded");
                      }});

@@ -18,6 +18,6 @@ int main(int argc, char* argv[]) {
     umbrakit::SystemLauncher launcher;
     umbrakit::Services services{appPath.path(), files, dialogs, launcher,
                                 [] { QCoreApplication::exit(0); }};
-    const auto form = umbrakit::Form1::start(services);
+    const auto form = umbrakit::MainWindow::start(services);
     return umbrakit::bench::runShownWindow(*form);
 }

@@ -24,7 +24,7 @@ target_link_libraries(bench_startup_bare PRIVATE bench_window_run)
 
 add_executable(bench_handlers bench/handlers.cpp bench/handler_timer.cpp
     bench/main_window_cases.cpp bench/paths_dialog_cases.cpp bench/bare_window_cases.cpp
-    bench/system_cases.cpp bench/bare_window.cpp tests/support/scripted_dialogs.cpp)
+    bench/system_cases.cpp bench/bare_window.cpp)
 # The handlers' boxes are answered as the tests answer them.
 target_include_directories(bench_handlers PRIVATE tests)
 target_link_libraries(bench_handlers PRIVATE umbrakit_gui)

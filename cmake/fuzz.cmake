@@ -12,7 +12,7 @@ set(UMBRAKIT_FUZZ_SECONDS 20 CACHE STRING "How long each fuzz test runs, in seco
 
 set(fuzz_build ${CMAKE_BINARY_DIR}/fuzz)
 set(fuzz_source ${CMAKE_SOURCE_DIR}/fuzz)
-file(GLOB fuzz_core_sources ${CMAKE_SOURCE_DIR}/src/core/*.cpp)
+file(GLOB fuzz_core_sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/core/*.cpp)
 # The list goes through the test's command line as one argument.
 string(REPLACE ";" "\\;" fuzz_core_sources "${fuzz_core_sources}")
 

@@ -1,10 +1,12 @@
 // Feeds any bytes to the readers of config.ini, the way a hand-edited, cut-off or damaged file
 // reaches them (lines without "=", CR without LF, NUL bytes, very long lines), and checks what
 // must hold whatever the file holds.
-#include "fuzz_check.h"
-#include "core/text_lines.h"
 #include "core/config_format.h"
+#include "core/config_rewrite.h"
 #include "core/config_walk.h"
+#include "core/saved_settings.h"
+#include "core/text_lines.h"
+#include "fuzz_check.h"
 
 #include <algorithm>
 #include <array>
@@ -23,10 +25,6 @@ namespace {
 
 // Loading a name costs a pass over the file, so a file full of heads is sampled.
 constexpr std::size_t kNamesLoaded = 64;
-
-bool listEverything(std::string_view) {
-    return true;
-}
 
 void checkLine(const std::string& line, std::size_t turn) {
     const std::string value = valueOfLine(line);
@@ -108,33 +106,52 @@ void checkLoad(const std::vector<std::string>& lines, const std::string& name) {
     }
 }
 
-// What a save or a delete does to this file: every listed record survives, whole or padded.
-void checkRewrites(const std::vector<std::string>& lines, const std::vector<std::string>& names) {
-    const std::string kept = rewrittenConfig(lines, listEverything, std::nullopt);
+// What a save or a delete through the list does to this file: every record whose name the
+// list keeps survives, whole or padded.
+void checkRewrites(std::string_view bytes, const std::vector<std::string>& names) {
+    const SavedNameTable table{bytes};
+    const std::string kept = rewriteConfig(bytes, table, std::nullopt);
     const std::vector<std::string> keptLines = splitLines(kept);
-    require(readSavedNames(keptLines) == names, "a rewrite keeps every listed name");
+    require(readSavedNames(keptLines) == names, "a rewrite keeps every name of the file");
     require(keptLines.size() == names.size() * (1 + kValueLinesPerRecord),
             "a rewrite writes whole records only");
-    require(kept.empty() || kept.ends_with("\r\n"), "the last line ends in CR LF");
-    require(rewrittenConfig(keptLines, listEverything, std::nullopt) == kept,
+    require(rewriteConfig(kept, SavedNameTable(kept), std::nullopt) == kept,
             "a rewritten file rewrites to itself");
 
-    SavedRecord added{"fuzz", "D:\\Saved Games\\BF1942", "MyLevel", "BF1942", true, false, true,
-                      "1.5"};
-    std::vector<std::string> withAdded = names;
-    withAdded.push_back(added.name);
-    const auto saved = splitLines(rewrittenConfig(lines, listEverything, added));
-    require(readSavedNames(saved) == withAdded, "a save adds its name last and loses none");
+    if (std::ranges::find(names, "fuzz") == names.end()) {
+        const auto saved = planSave(table, {"fuzz", "D:\\BF", "L", "M", {}, "1.5"}, bytes);
+        std::vector<std::string> withAdded = names;
+        withAdded.push_back("fuzz");
+        if (const auto* rewrite = std::get_if<Rewrite>(&saved))
+            require(readSavedNames(splitLines(rewrite->configBytes)) == withAdded,
+                    "a save adds its name last and loses none");
+        else
+            require(!table.hasRoomFor("fuzz"), "a save is refused only for want of room");
+    }
 
-    if (names.empty())
-        return;
-    const std::string gone = names.front();
-    std::vector<std::string> left;
-    std::ranges::copy_if(names, std::back_inserter(left),
-                         [&](const std::string& n) { return n != gone; });
-    const auto deleted = splitLines(rewrittenConfig(
-        lines, [&](std::string_view n) { return n != gone; }, std::nullopt));
-    require(readSavedNames(deleted) == left, "a delete takes that name only");
+    // A delete takes the selected row and the last other row of that name off the list. The
+    // records of that name go once no row shows it, unless the list had no room for one.
+    const auto deleted = planDelete(table, 1, bytes);
+    if (const auto* rewrite = std::get_if<Rewrite>(&deleted)) {
+        const std::string gone = table.rows()[1];
+        const auto rowsOfGone = [&](const SavedNameTable& t) {
+            return std::ranges::count(t.rows(), gone);
+        };
+        require(rowsOfGone(rewrite->names) == std::max<std::ptrdiff_t>(0, rowsOfGone(table) - 2),
+                "a delete takes two rows of the name at most");
+        const auto others = [&](std::vector<std::string> list) {
+            std::erase(list, gone);
+            return list;
+        };
+        const std::vector<std::string> after = readSavedNames(splitLines(rewrite->configBytes));
+        require(others(after) == others(names), "a delete keeps every other name");
+        const bool beyondRoom = names.size() > std::size_t(kSavedNameCapacity) &&
+                                std::find(names.begin() + kSavedNameCapacity, names.end(), gone) !=
+                                    names.end();
+        require(rowsOfGone(rewrite->names) > 0 || beyondRoom ||
+                    std::ranges::find(after, gone) == after.end(),
+                "the records of a name no row shows go");
+    }
 }
 
 } // namespace
@@ -162,6 +179,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         checkLoad(lines, lines.back());
     }
 
-    checkRewrites(lines, names);
+    checkRewrites(bytes, names);
     return 0;
 }

@@ -16,6 +16,6 @@ int main(int argc, char* argv[]) {
                                         window->hide();
                                     QCoreApplication::exit(0);
                                 }};
-    const auto form = umbrakit::Form1::start(services);
+    const auto mainWindow = umbrakit::MainWindow::start(services);
     return app.exec();
 }

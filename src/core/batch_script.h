@@ -2,26 +2,26 @@
 #pragma once
 
 #include <string>
+#include <variant>
 #include <vector>
+
+#include "core/ansi_text.h"
+#include "core/configuration.h"
+#include "core/text_field.h"
 
 namespace umbrakit {
 
-// What the script is made of. The strings are already single-byte ANSI text and go into the
-// script byte for byte: nothing is trimmed, quoted or escaped.
-struct ScriptValues {
-    std::string gamePath, levelName, modName;
-    double shadowDarkness = 1.5;
-    bool terrain = false, merge = false, object = false;
-};
-
 // The folder line and the drive line, then the terrain, merge and object lines of the passes
-// that are on, in that order.
-std::vector<std::string> composeScriptLines(const ScriptValues& values);
+// that are on, in that order. Every text goes in as it is: nothing is trimmed, quoted or
+// escaped beyond the script's own quotes.
+std::vector<std::u32string> composeScriptLines(const Configuration& configuration);
 
-// The bytes of go.bat: the lines above, each ended by CR LF.
-std::string composeScript(const ScriptValues& values);
+// The lines above, each ended by CR LF.
+std::u32string composeScript(const Configuration& configuration);
 
-// A run needs a darkness above 0 and all three strings non-empty; blanks count as text.
-bool isCompleteForRun(const ScriptValues& values);
+// The bytes of go.bat in the code page, or the first text it cannot hold: a "?" in its place
+// would send the engine to a folder that is not there.
+std::variant<std::string, UnwritableText> scriptBytes(const Configuration& configuration,
+                                                      CodePage codePage);
 
 } // namespace umbrakit

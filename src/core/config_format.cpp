@@ -58,9 +58,9 @@ std::vector<std::string> recordLines(const SavedRecord& record) {
         "gamePath=" + record.gamePath,
         "levelName=" + record.levelName,
         "modName=" + record.modName,
-        booleanLine("terrainBoolean=", record.terrainBoolean),
-        booleanLine("mergeBoolean=", record.mergeBoolean),
-        booleanLine("objectBoolean=", record.objectBoolean),
+        booleanLine("terrainBoolean=", record.passes.terrain),
+        booleanLine("mergeBoolean=", record.passes.merge),
+        booleanLine("objectBoolean=", record.passes.object),
         "shadowDarkness=" + record.shadowDarknessText,
     };
 }

@@ -8,10 +8,10 @@
 #include <string_view>
 #include <vector>
 
+#include "core/configuration.h"
+
 namespace umbrakit {
 
-// Rows the saved name table can offer; the file itself may hold more records.
-constexpr int kSavedNameCapacity = 30;
 // Lines that follow every head, whatever they hold.
 constexpr int kValueLinesPerRecord = 7;
 
@@ -31,11 +31,11 @@ std::string valueOfLine(std::string_view line);
 // The exact head line for a name, as written and as matched when loading.
 std::string headFor(std::string_view name);
 
-// One saved configuration as written. The shadow darkness stays the typed text so that the
-// file keeps exactly what the user entered.
+// One saved configuration as written, its texts in the file's code page. The shadow darkness
+// stays the typed text so that the file keeps exactly what the user entered.
 struct SavedRecord {
     std::string name, gamePath, levelName, modName;
-    bool terrainBoolean = false, mergeBoolean = false, objectBoolean = false;
+    PassOptions passes;
     std::string shadowDarknessText;
 };
 

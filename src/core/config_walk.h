@@ -1,17 +1,20 @@
-// The walks over the lines of config.ini: listing the names, rewriting the file and loading
-// one record. Lines come from splitLines; a missing file is simply no lines.
+// The walks over the lines of config.ini: listing the names and loading one record. Lines
+// come from splitLines; a missing file is simply no lines.
 #pragma once
 
 #include "core/config_format.h"
 
 #include <array>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace umbrakit {
+
+// The index behind the value lines of the head at `head`. A record cut short by the end of
+// the file simply ends there.
+std::size_t endOfRecord(const std::vector<std::string>& lines, std::size_t head);
 
 // The names of all heads in file order, empty names included, so the caller sees what a fill
 // of the name table would see. Walks record by record: the seven lines behind a head are
@@ -20,24 +23,13 @@ namespace umbrakit {
 // the caller's business.
 std::vector<std::string> readSavedNames(const std::vector<std::string>& lines);
 
-// The records that outlive a rewrite: each head whose name isListed, with the seven lines
-// behind it, unchanged. Unlisted records and stray lines are dropped.
-std::vector<std::string>
-survivingRecordLines(const std::vector<std::string>& lines,
-                     const std::function<bool(std::string_view name)>& isListed);
-
-// The complete new file: the surviving records, then newRecord (if any) last, every line
-// ended by CR LF. No records give the empty string, a file of 0 bytes.
-std::string rewrittenConfig(const std::vector<std::string>& lines,
-                            const std::function<bool(std::string_view name)>& isListed,
-                            const std::optional<SavedRecord>& newRecord);
-
 // What loading a saved name found. values is indexed by RecordKey; a key without a line
 // stays nullopt, so the caller leaves that field as it was. Boolean and number texts are not
 // converted here.
 struct RecordValues {
     bool found = false;
     std::array<std::optional<std::string>, 7> values;
+    bool operator==(const RecordValues&) const = default;
 };
 
 // Loads the record headed exactly headFor(name). The first such head supplies the values from

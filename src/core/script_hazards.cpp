@@ -1,33 +1,31 @@
 #include "core/script_hazards.h"
 
+#include <optional>
 #include <string_view>
 
 namespace umbrakit {
 
 namespace {
-std::optional<unsigned char> firstHazard(std::string_view text, std::string_view ownCharacters) {
-    for (char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte >= 0x80 || ownCharacters.find(c) != std::string_view::npos)
-            return byte;
-    }
+std::optional<char32_t> firstHazard(std::u32string_view text, std::u32string_view ownCharacters) {
+    for (char32_t c : text)
+        if (c >= 0x80 || ownCharacters.find(c) != std::u32string_view::npos)
+            return c;
     return std::nullopt;
 }
 } // namespace
 
-std::vector<ScriptHazard> scriptHazards(const ScriptValues& values) {
+std::vector<ScriptHazard> scriptHazards(const Configuration& c) {
     const struct {
-        ScriptHazard::Field field;
-        const std::string& text;
-        std::string_view ownCharacters;
-    } fields[] = {{ScriptHazard::GamePath, values.gamePath, "%\""},
-                  {ScriptHazard::LevelName, values.levelName, "%\""},
-                  {ScriptHazard::ModName, values.modName, "%\"^&|<>"}};
+        TextField field;
+        const std::u32string& text;
+        std::u32string_view ownCharacters;
+    } fields[] = {{TextField::GamePath, c.gamePath, U"%\""},
+                  {TextField::LevelName, c.levelName, U"%\""},
+                  {TextField::ModName, c.modName, U"%\"^&|<>"}};
     std::vector<ScriptHazard> hazards;
-    for (const auto& field : fields) {
-        if (const auto byte = firstHazard(field.text, field.ownCharacters))
-            hazards.push_back({field.field, *byte});
-    }
+    for (const auto& field : fields)
+        if (const std::optional<char32_t> character = firstHazard(field.text, field.ownCharacters))
+            hazards.push_back({field.field, *character});
     return hazards;
 }
 

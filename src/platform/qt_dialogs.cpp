@@ -9,22 +9,22 @@ namespace umbrakit {
 namespace {
 const char* const kDefaultTitle = "Umbrakit";
 
-QMessageBox::Icon iconOf(int buttons) {
-    switch (buttons & 0x70) {
-    case MsgBoxStyle::Critical: return QMessageBox::Critical;
-    case 32: return QMessageBox::Question;
-    case MsgBoxStyle::Exclamation: return QMessageBox::Warning;
-    case MsgBoxStyle::Information: return QMessageBox::Information;
-    default: return QMessageBox::NoIcon;
+QMessageBox::Icon iconOf(MsgBoxIcon icon) {
+    switch (icon) {
+    case MsgBoxIcon::Critical: return QMessageBox::Critical;
+    case MsgBoxIcon::Exclamation: return QMessageBox::Warning;
+    case MsgBoxIcon::Information: return QMessageBox::Information;
+    case MsgBoxIcon::None: break;
     }
+    return QMessageBox::NoIcon;
 }
 } // namespace
 
-int QtDialogs::msgBox(const QString& prompt, int buttons, const QString& title) {
-    QMessageBox box(iconOf(buttons), title.isEmpty() ? QString(kDefaultTitle) : title, prompt,
+MsgBoxAnswer QtDialogs::msgBox(const QString& prompt, MsgBoxStyle style, const QString& title) {
+    QMessageBox box(iconOf(style.icon), title.isEmpty() ? QString(kDefaultTitle) : title, prompt,
                     QMessageBox::NoButton, QApplication::activeWindow());
     box.setObjectName("MsgBox");
-    if ((buttons & 0x0F) == MsgBoxStyle::YesNo) {
+    if (style.buttons == MsgBoxButtons::YesNo) {
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         box.setDefaultButton(QMessageBox::Yes);
         box.setEscapeButton(QMessageBox::NoButton);
@@ -33,10 +33,10 @@ int QtDialogs::msgBox(const QString& prompt, int buttons, const QString& title) 
     }
     const int answer = box.exec();
     if (answer == QMessageBox::Yes)
-        return MsgBoxResult::Yes;
+        return MsgBoxAnswer::Yes;
     if (answer == QMessageBox::No)
-        return MsgBoxResult::No;
-    return MsgBoxResult::Ok;
+        return MsgBoxAnswer::No;
+    return MsgBoxAnswer::Ok;
 }
 
 QStringList nameFiltersOf(const QString& filter) {

@@ -8,8 +8,8 @@
 namespace umbrakit {
 
 class QtDialogs : public Dialogs {
-public:
-    int msgBox(const QString& prompt, int buttons, const QString& title) override;
+  public:
+    MsgBoxAnswer msgBox(const QString& prompt, MsgBoxStyle style, const QString& title) override;
     QString showOpen(const FileDialogRequest& request) override;
 };
 

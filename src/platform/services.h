@@ -4,6 +4,7 @@
 #include <QString>
 #include <functional>
 
+#include "core/ansi_text.h"
 #include "platform/dialogs.h"
 #include "platform/file_ops.h"
 #include "platform/launcher.h"
@@ -15,7 +16,8 @@ struct Services {
     FileOps& files;
     Dialogs& dialogs;
     Launcher& launcher;
-    std::function<void()> end; // ends the program at once
+    std::function<void()> end;              // ends the program at once
+    CodePage codePage = systemCodePage();   // of go.bat and config.ini
 
     // A file of the program's own folder, such as "go.bat".
     QString appFile(const QString& name) const { return appPath + '/' + name; }

@@ -1,73 +1,102 @@
 #include "core/batch_script.h"
+#include "core/script_hazards.h"
 
 #include <doctest/doctest.h>
 
 #include <limits>
 #include <string>
-#include <utility>
 #include <vector>
 
-using umbrakit::composeScript;
-using umbrakit::composeScriptLines;
-using umbrakit::isCompleteForRun;
-using umbrakit::ScriptValues;
-using Lines = std::vector<std::string>;
+using namespace umbrakit;
+using Lines = std::vector<std::u32string>;
 
 namespace {
 
-const ScriptValues example{"D:\\Games\\BF1942", "MyLevel", "BF1942", 1.5, false, false, false};
-const std::string head = R"("D:\Games\BF1942\BF1942.exe" +game BF1942 +workingFolder )"
-                         R"("D:\Games\BF1942\ShadowWork\")";
-const std::string terrain =
-    head + R"( +traceTerrainShadows "bf1942\levels\MyLevel\" "MyLevel\lmList.dat" )"
-           R"("D:\Games\BF1942\ShadowWork\bf1942\levels\MyLevel\textures")";
-const std::string merge = head + R"( +mergeTerrainShadows "bf1942\levels\MyLevel\ 1.5 0.4")";
-const std::string object = head + R"( +traceObjectShadows "bf1942\levels\MyLevel\")";
+const Configuration example{U"D:\\Games\\BF1942", U"MyLevel", U"BF1942", 1.5, {}};
+const std::u32string head = UR"("D:\Games\BF1942\BF1942.exe" +game BF1942 +workingFolder )"
+                            UR"("D:\Games\BF1942\ShadowWork\")";
+const std::u32string terrain =
+    head + UR"( +traceTerrainShadows "bf1942\levels\MyLevel\" "MyLevel\lmList.dat" )"
+           UR"("D:\Games\BF1942\ShadowWork\bf1942\levels\MyLevel\textures")";
+const std::u32string merge = head + UR"( +mergeTerrainShadows "bf1942\levels\MyLevel\ 1.5 0.4")";
+const std::u32string object = head + UR"( +traceObjectShadows "bf1942\levels\MyLevel\")";
 
 } // namespace
 
-TEST_CASE("script text") {
-    ScriptValues v = example;
-    SUBCASE("all passes, byte for byte") {
-        v.terrain = v.merge = v.object = true;
-        CHECK(composeScript(v) == "@cd D:\\Games\\BF1942\r\n@D:\r\n" + terrain + "\r\n" + merge +
-                                      "\r\n" + object + "\r\n");
+TEST_CASE("go.bat") {
+    Configuration c = example;
+    SUBCASE("the worked example, byte for byte") {
+        c.passes = {true, true, true};
+        const std::string expected = "@cd D:\\Games\\BF1942\r\n@D:\r\n" +
+                                     std::string(terrain.begin(), terrain.end()) + "\r\n" +
+                                     std::string(merge.begin(), merge.end()) + "\r\n" +
+                                     std::string(object.begin(), object.end()) + "\r\n";
+        CHECK(std::get<std::string>(scriptBytes(c, kWestern)) == expected);
     }
     SUBCASE("every subset keeps the order and leaves no empty line") {
         for (int mask = 0; mask < 8; ++mask) {
-            v.terrain = mask & 1, v.merge = mask & 2, v.object = mask & 4;
-            Lines expected = {"@cd D:\\Games\\BF1942", "@D:"};
-            for (auto [on, line] :
-                 {std::pair{v.terrain, terrain}, {v.merge, merge}, {v.object, object}})
+            c.passes = {bool(mask & 1), bool(mask & 2), bool(mask & 4)};
+            Lines expected = {U"@cd D:\\Games\\BF1942", U"@D:"};
+            for (auto [on, line] : {std::pair{c.passes.terrain, terrain},
+                                    {c.passes.merge, merge},
+                                    {c.passes.object, object}})
                 if (on)
                     expected.push_back(line);
-            CHECK(composeScriptLines(v) == expected);
+            CHECK(composeScriptLines(c) == expected);
         }
     }
-    SUBCASE("fields go in as they are") {
-        v = {"C:\\BF\\", "MyLevel", "Desert Combat", 2.0, false, true, false};
-        CHECK(composeScriptLines(v) ==
-              Lines{"@cd C:\\BF\\", "@C:",
-                    R"("C:\BF\\BF1942.exe" +game Desert Combat +workingFolder "C:\BF\\ShadowWork\")"
-                    R"( +mergeTerrainShadows "bf1942\levels\MyLevel\ 2 0.4")"});
-        v.gamePath = std::string(1, 'X'); // not = "X": GCC 12 warns wrongly of an overlap
-        CHECK(composeScriptLines(v)[1] == "@X");
-        v.gamePath = "";
-        CHECK(composeScriptLines(v)[1] == "@");
+    SUBCASE("texts go in as they are") {
+        c = {U"C:\\BF\\", U"MyLevel", U"Desert Combat", 2.0, {false, true, false}};
+        CHECK(composeScriptLines(c) ==
+              Lines{U"@cd C:\\BF\\", U"@C:",
+                    UR"("C:\BF\\BF1942.exe" +game Desert Combat +workingFolder "C:\BF\\ShadowWork\")"
+                    UR"( +mergeTerrainShadows "bf1942\levels\MyLevel\ 2 0.4")"});
+        c.gamePath = U"X";
+        CHECK(composeScriptLines(c)[1] == U"@X");
+        c.gamePath = U"";
+        CHECK(composeScriptLines(c)[1] == U"@");
+    }
+    SUBCASE("a text the code page cannot hold is named, the first field first") {
+        c.levelName = U"Forêt Ω";
+        c.modName = U"Ж";
+        CHECK(std::get<UnwritableText>(scriptBytes(c, kWestern)) ==
+              UnwritableText{TextField::LevelName, U'Ω'});
+        // Under UTF-8 everything can be written, as UTF-8.
+        CHECK(std::get<std::string>(scriptBytes(c, kUtf8)).starts_with("@cd D:"));
+        c.levelName = U"Forêt";
+        c.modName = U"BF1942";
+        c.passes.object = true;
+        CHECK(std::get<std::string>(scriptBytes(c, kWestern)).find("levels\\For\xEAt\\\"\r\n") !=
+              std::string::npos);
     }
 }
 
 TEST_CASE("completeness for a run") {
-    ScriptValues v{" ", " ", " ", 0.1, false, false, false};
-    CHECK(isCompleteForRun(v));
+    const Configuration blanks{U" ", U" ", U" ", 0.1, {}};
+    CHECK(isCompleteForRun(blanks));
     for (double d : {0.0, -1.5, std::numeric_limits<double>::quiet_NaN()}) {
-        ScriptValues w = v;
-        w.shadowDarkness = d;
-        CHECK_FALSE(isCompleteForRun(w));
+        Configuration c = blanks;
+        c.shadowDarkness = d;
+        CHECK_FALSE(isCompleteForRun(c));
     }
-    for (auto field : {&ScriptValues::gamePath, &ScriptValues::levelName, &ScriptValues::modName}) {
-        ScriptValues w = v;
-        w.*field = "";
-        CHECK_FALSE(isCompleteForRun(w));
+    for (auto text : {&Configuration::gamePath, &Configuration::levelName, &Configuration::modName}) {
+        Configuration c = blanks;
+        c.*text = U"";
+        CHECK_FALSE(isCompleteForRun(c));
     }
+}
+
+TEST_CASE("characters the batch processor would read otherwise") {
+    Configuration c = example;
+    c.modName = U"Desert Combat"; // a blank is the user's own choice: two words
+    CHECK(scriptHazards(c).empty());
+    c.levelName = U"Forêt";
+    c.modName = U"A&B";
+    CHECK(scriptHazards(c) == std::vector<ScriptHazard>{{TextField::LevelName, U'ê'},
+                                                        {TextField::ModName, U'&'}});
+    // "&" is harmless inside the quoted paths, "%" and a quote are not
+    c = {U"D:\\R&D\\BF1942", U"50%", U"BF1942", 1.5, {}};
+    CHECK(scriptHazards(c) == std::vector<ScriptHazard>{{TextField::LevelName, U'%'}});
+    c.levelName = U"a\"b";
+    CHECK(scriptHazards(c) == std::vector<ScriptHazard>{{TextField::LevelName, U'"'}});
 }

@@ -25,10 +25,10 @@ template <typename Window> void whenShown(std::function<void(Window*)> answer) {
 class SystemBoxesTest : public QObject {
     Q_OBJECT
   private slots:
-    void theMessageBoxAnswersTheProgramsCodes() {
+    void theMessageBoxAnswersYesNoAndOk() {
         QtDialogs dialogs;
         QStringList titles;
-        auto answer = [&](int buttons, const char* title, QMessageBox::StandardButton click) {
+        auto answer = [&](MsgBoxButtons buttons, const char* title, QMessageBox::StandardButton click) {
             whenShown<QMessageBox>([&titles, click](QMessageBox* box) {
                 titles << box->windowTitle();
                 if (click == QMessageBox::NoButton)
@@ -36,11 +36,13 @@ class SystemBoxesTest : public QObject {
                 else
                     QTest::mouseClick(box->button(click), Qt::LeftButton);
             });
-            return dialogs.msgBox("Prompt", buttons, title);
+            return dialogs.msgBox("Prompt", {buttons}, title);
         };
-        QCOMPARE(answer(4, "File Exists...", QMessageBox::NoButton), 6); // Enter takes Yes
-        QCOMPARE(answer(4, "File Exists...", QMessageBox::No), 7);
-        QCOMPARE(answer(0, "", QMessageBox::NoButton), 1);
+        // Enter takes Yes, the default button
+        QCOMPARE(answer(MsgBoxButtons::YesNo, "File Exists...", QMessageBox::NoButton),
+                 MsgBoxAnswer::Yes);
+        QCOMPARE(answer(MsgBoxButtons::YesNo, "File Exists...", QMessageBox::No), MsgBoxAnswer::No);
+        QCOMPARE(answer(MsgBoxButtons::Ok, "", QMessageBox::NoButton), MsgBoxAnswer::Ok);
         QCOMPARE(titles, QStringList({"File Exists...", "File Exists...", "Umbrakit"}));
     }
 

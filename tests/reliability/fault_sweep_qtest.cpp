@@ -6,8 +6,10 @@
 #include <QtTest>
 #include <functional>
 
-#include "support/dialog_driver.h"
+#include "gui/main_window/patch_grid.h"
+
 #include "platform/form_timer.h"
+#include "support/dialog_driver.h"
 
 using namespace umbrakit;
 
@@ -31,13 +33,13 @@ struct Command {
 
 // The status line, Timer1, what was started and the dialog's rows, selection and texts.
 QString stateOf(TestApp& app) {
-    QString state = app.status() + (app.form->Timer1->Enabled() ? " +timer" : "");
+    QString state = app.status() + (app.window->statusTimer->Enabled() ? " +timer" : "");
     for (const QString& started : app.launcher.started)
         state += " started " + QFileInfo(started).fileName();
-    if (const PathsDialog* dialog = app.form->pathsDialog(); dialog && dialog->isLoaded())
+    if (const PathsDialog* dialog = app.window->pathsDialog(); dialog && dialog->isLoaded())
         state += QString(" %1@%2 ")
-                     .arg(rowsOf(dialog->window()->SavedSettings).join(','))
-                     .arg(dialog->window()->SavedSettings->ListIndex()) +
+                     .arg(rowsOf(dialog->window()->savedList).join(','))
+                     .arg(dialog->window()->savedList->ListIndex()) +
                  texts(*dialog->window());
     return state;
 }
@@ -48,34 +50,30 @@ const Command kCommands[] = {
     {"export", "lmList.dat", "lmList.dat.tmp", QByteArray("\x00\x00", 2), 1, 3,
      "Preparing to Save... +timer", "Saved! +timer",
      [](TestApp& app) {
-         app.form->CheckBoxArray[0]->setChecked(true);
+         app.window->patchGrid->patch(0)->setChecked(true);
          app.dialogs.fileAnswers.enqueue(app.path("lmList.dat"));
-         app.dialogs.boxAnswers.enqueue(MsgBoxResult::Yes); // overwrite the old list
+         app.dialogs.boxAnswers.enqueue(MsgBoxAnswer::Yes); // overwrite the old list
      },
-     [](TestApp& app) { click(app.form->lmList_Button); }},
+     [](TestApp& app) { click(app.window->exportButton); }},
     {"lighting run", "go.bat", "go.bat.tmp", "@cd D:\\Games\\BF1942\r\n@D:\r\n", 0, 3,
      "Ready. +timer", "Running batch lighting... You may exit. +timer started go.bat",
-     [](TestApp& app) {
-         app.form->gamePath = "D:\\Games\\BF1942";
-         app.form->levelName = "MyLevel";
-         app.form->modName = "BF1942";
-     },
-     [](TestApp& app) { click(app.form->Go_Button); }},
+     [](TestApp& app) { app.setPaths(U"D:\\Games\\BF1942", U"MyLevel", U"BF1942"); },
+     [](TestApp& app) { click(app.window->runLightingButton); }},
     {"save", "config.ini", "config.tmp",
      kWake + kBerlin + record("Midway", "E:\\BF", "changed", "DesertCombat", "011", "2"), 0, 4,
      "Ready. (Current),Wake,Midway,Berlin@2 " + kMidwayChanged,
      "Ready. (Current),Wake,Berlin,Midway@3 " + kMidwayChanged,
      [](TestApp& app) {
          PathsDialogWindow& w = openPaths(app);
-         choose(w.SavedSettings, 2);
-         type(w.LevelName_Text, "changed");
+         chooseRow(w.savedList, 2);
+         type(w.levelBox, "changed");
      },
-     [](TestApp& app) { click(app.form->pathsDialog()->window()->Save); }},
+     [](TestApp& app) { click(app.window->pathsDialog()->window()->saveButton); }},
     {"delete", "config.ini", "config.tmp", kWake + kBerlin, 0, 4,
      "Ready. (Current),Wake,Midway,Berlin@0 Midway||||1.5|000",
      "Ready. (Current),Wake,Berlin@0 Midway||||1.5|000",
-     [](TestApp& app) { choose(openPaths(app).SavedSettings, 2); },
-     [](TestApp& app) { click(app.form->pathsDialog()->window()->Delete); }},
+     [](TestApp& app) { chooseRow(openPaths(app).savedList, 2); },
+     [](TestApp& app) { click(app.window->pathsDialog()->window()->deleteButton); }},
 };
 
 // What must hold after every run, failed or not; empty when all holds.
@@ -95,7 +93,7 @@ QStringList problemsAfter(TestApp& app, const Command& c, bool failed) {
     expect(app.dialogs.boxes.size() == c.questions + (failed ? 1 : 0), "boxes");
     const AskedBox box = app.dialogs.boxes.value(app.dialogs.boxes.size() - 1);
     expect(!failed ||
-               (box.buttons == MsgBoxStyle::Critical && box.prompt.contains("Injected failure.") &&
+               (box.style.icon == MsgBoxIcon::Critical && box.prompt.contains("Injected failure.") &&
                 box.prompt.contains(QDir::toNativeSeparators(app.path(c.file)))),
            "box " + box.prompt);
     const QString state = stateOf(app);

@@ -34,18 +34,18 @@ int saveLoop(const QString& folder) {
     ScriptedDialogs dialogs;
     FakeLauncher launcher;
     Services services{folder, files, dialogs, launcher, [] {}};
-    const auto form = Form1::start(services);
-    form->menuFilePaths->trigger();
-    PathsDialogWindow& w = *form->pathsDialog()->window();
-    w.SettingName_Text->setText("Killed");
-    w.LevelName_Text->setText("Wake");
-    w.ModName_Text->setText("BF1942");
+    const auto window = MainWindow::start(services);
+    window->setPathsEntry->trigger();
+    PathsDialogWindow& w = *window->pathsDialog()->window();
+    w.nameBox->setText("Killed");
+    w.levelBox->setText("Wake");
+    w.modBox->setText("BF1942");
     std::puts("saving");
     for (int variant = 0;; variant = 1 - variant) {
         std::fflush(stdout);
-        w.GamePath_Text->setText(kGamePath[variant]);
-        w.shadow_Text->setText(kDarkness[variant]);
-        w.Save->click();
+        w.gamePathBox->setText(kGamePath[variant]);
+        w.darknessBox->setText(kDarkness[variant]);
+        w.saveButton->click();
         if (!dialogs.boxes.isEmpty())
             return 1; // a save that failed leaves no state the test could expect
         std::puts("saved");

@@ -1,28 +1,28 @@
-// The paths dialog as a user meets it in the tests: opened from the menu, typed into, clicked.
+// The paths dialog as a user meets it in the tests: opened from the menu, typed into, clicked;
+// and the records of config.ini as the program writes them.
 #pragma once
 
-#include <QAbstractItemView>
 #include <QApplication>
+#include <QCheckBox>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTest>
 
 #include "gui/paths_dialog/paths_dialog.h"
-#include "platform/click_check_box.h"
 #include "platform/combo_list.h"
 #include "platform/menu_entry.h"
 #include "support/test_app.h"
+#include "support/user_input.h"
 
 namespace umbrakit {
 
 inline PathsDialogWindow& openPaths(TestApp& app) {
-    app.form->menuFilePaths->trigger();
-    return *app.form->pathsDialog()->window();
+    app.window->setPathsEntry->trigger();
+    return *app.window->pathsDialog()->window();
 }
 
 inline PathsDialogWindow& reopenPaths(TestApp& app) { // a fresh load
-    app.form->pathsDialog()->Unload();
+    app.window->pathsDialog()->unload();
     return openPaths(app);
 }
 
@@ -42,13 +42,6 @@ inline void click(QPushButton* button) {
     QTest::mouseClick(button, Qt::LeftButton);
 }
 
-// Picks a row in the open list and confirms it with Enter: one Click, as a user's choice.
-inline void choose(ComboList* list, int row) {
-    list->showPopup();
-    list->view()->setCurrentIndex(list->view()->model()->index(row, 0));
-    QTest::keyClick(list->view(), Qt::Key_Return);
-}
-
 inline QStringList rowsOf(const ComboList* list) {
     QStringList rows;
     for (int i = 0; i < list->ListCount(); ++i)
@@ -57,16 +50,18 @@ inline QStringList rowsOf(const ComboList* list) {
 }
 
 inline void saveAs(PathsDialogWindow& w, const QString& name) {
-    type(w.SettingName_Text, name);
-    click(w.Save);
+    type(w.nameBox, name);
+    click(w.saveButton);
 }
 
 // name|game|level|mod|darkness|pass boxes, e.g. "101" for terrain and object.
 inline QString texts(const PathsDialogWindow& w) {
-    const auto on = [](const ClickCheckBox* box) { return QString::number(box->Value()); };
-    return w.SettingName_Text->text() + "|" + w.GamePath_Text->text() + "|" +
-           w.LevelName_Text->text() + "|" + w.ModName_Text->Text() + "|" + w.shadow_Text->text() +
-           "|" + on(w.TerrainCheck) + on(w.MergeCheck) + on(w.ObjectCheck);
+    QString passes;
+    for (const QCheckBox* box : w.passBoxes)
+        passes += box->isChecked() ? '1' : '0';
+    return QStringList{w.nameBox->text(), w.gamePathBox->text(), w.levelBox->text(),
+                       w.modBox->Text(), w.darknessBox->text(), passes}
+        .join('|');
 }
 
 // The eight lines of a record as config.ini holds them; passes as "101" for terrain and object.
@@ -76,13 +71,6 @@ inline QByteArray record(const QByteArray& name, const QByteArray& game, const Q
     return "[Save=" + name + "]\r\ngamePath=" + game + "\r\nlevelName=" + level +
            "\r\nmodName=" + mod + "\r\nterrainBoolean=" + word(0) + "\r\nmergeBoolean=" + word(1) +
            "\r\nobjectBoolean=" + word(2) + "\r\nshadowDarkness=" + darkness + "\r\n";
-}
-
-inline QByteArray numbered(int first, int last) { // records "N<first>" to "N<last>"
-    QByteArray records;
-    for (int i = first; i <= last; ++i)
-        records += record("N" + QByteArray::number(i), "g", "l", "m", "000", "1");
-    return records;
 }
 
 inline const QByteArray kWake = record("Wake", "D:\\BF", "Wake", "BF1942", "100", "1.5");

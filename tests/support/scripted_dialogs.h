@@ -11,19 +11,27 @@ namespace umbrakit {
 
 struct AskedBox {
     QString prompt;
-    int buttons;
+    MsgBoxStyle style;
     QString title;
 };
 
 class ScriptedDialogs : public Dialogs {
-public:
-    QQueue<int> boxAnswers;      // an empty queue answers OK, or No to a Yes/No box
-    QQueue<QString> fileAnswers; // an empty queue cancels
+  public:
+    QQueue<MsgBoxAnswer> boxAnswers; // an empty queue answers OK, or No to a Yes/No box
+    QQueue<QString> fileAnswers;     // an empty queue cancels
     QList<AskedBox> boxes;
     QList<FileDialogRequest> fileRequests;
 
-    int msgBox(const QString& prompt, int buttons, const QString& title) override;
-    QString showOpen(const FileDialogRequest& request) override;
+    MsgBoxAnswer msgBox(const QString& prompt, MsgBoxStyle style, const QString& title) override {
+        boxes.append({prompt, style, title});
+        if (!boxAnswers.isEmpty())
+            return boxAnswers.dequeue();
+        return style.buttons == MsgBoxButtons::YesNo ? MsgBoxAnswer::No : MsgBoxAnswer::Ok;
+    }
+    QString showOpen(const FileDialogRequest& request) override {
+        fileRequests.append(request);
+        return fileAnswers.isEmpty() ? QString() : fileAnswers.dequeue();
+    }
 };
 
 } // namespace umbrakit

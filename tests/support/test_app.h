@@ -3,13 +3,15 @@
 #pragma once
 
 #include <QByteArray>
+#include <QFile>
 #include <QTemporaryDir>
 #include <memory>
 
 #include "gui/main_window/main_window.h"
-#include "support/scripted_dialogs.h"
+#include "platform/status_bar.h"
 #include "support/fake_launcher.h"
 #include "support/faulty_file_ops.h"
+#include "support/scripted_dialogs.h"
 
 namespace umbrakit {
 
@@ -20,12 +22,25 @@ struct TestApp {
     FakeLauncher launcher;
     int endCalls = 0;
     Services services{dir.path(), files, dialogs, launcher, [this] { ++endCalls; }};
-    std::unique_ptr<Form1> form = Form1::start(services);
+    std::unique_ptr<MainWindow> window = MainWindow::start(services);
 
     QString path(const QString& name) const { return dir.filePath(name); }
-    QByteArray bytesOf(const QString& name) const;
-    void write(const QString& name, const QByteArray& bytes) const;
-    QString status() const;
+    QByteArray bytesOf(const QString& name) const {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    void write(const QString& name, const QByteArray& bytes) const {
+        QFile file(path(name));
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
+            qFatal("cannot write %s", qPrintable(name));
+    }
+    QString status() const { return window->statusLine->SimpleText(); }
+
+    // The texts and the darkness as the paths dialog's OK hands them over; passes as they are.
+    void setPaths(const std::u32string& game, const std::u32string& level,
+                  const std::u32string& mod, double darkness = 1.5) {
+        window->applyConfiguration({game, level, mod, darkness, window->configuration().passes});
+    }
 };
 
 } // namespace umbrakit

@@ -8,7 +8,7 @@
 
 namespace umbrakit {
 
-// Opens the list and clicks the row.
+// Opens the list and clicks the row: one Click, as a user's choice.
 inline void chooseRow(QComboBox* combo, int row) {
     combo->showPopup();
     QAbstractItemView* view = combo->view();

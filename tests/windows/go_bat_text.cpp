@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/ansi_text.h"
 #include "core/batch_script.h"
 #include "core/number_text.h"
 
@@ -23,11 +24,13 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "go_bat_text: bad darkness '%s' or passes '%s'\n", argv[4], argv[5]);
         return 2;
     }
-    umbrakit::ScriptValues values{argv[1], argv[2], argv[3], *darkness};
-    values.terrain = passes.find('t') != std::string_view::npos;
-    values.merge = passes.find('m') != std::string_view::npos;
-    values.object = passes.find('o') != std::string_view::npos;
-
-    const std::string script = umbrakit::composeScript(values);
+    using umbrakit::fromAnsi, umbrakit::kWestern;
+    const umbrakit::Configuration c{fromAnsi(argv[1], kWestern), fromAnsi(argv[2], kWestern),
+                                    fromAnsi(argv[3], kWestern), *darkness,
+                                    {passes.find('t') != std::string_view::npos,
+                                     passes.find('m') != std::string_view::npos,
+                                     passes.find('o') != std::string_view::npos}};
+    const auto bytes = umbrakit::scriptBytes(c, kWestern);
+    const std::string& script = std::get<std::string>(bytes);
     return std::fwrite(script.data(), 1, script.size(), stdout) == script.size() ? 0 : 1;
 }

@@ -10,6 +10,7 @@
 #include "platform/click_check_box.h"
 #include "platform/disk_file_ops.h"
 #include "platform/menu_entry.h"
+#include "platform/qt_text.h"
 #include "support/scripted_dialogs.h"
 #include "platform/status_bar.h"
 #include "platform/system_launcher.h"
@@ -52,22 +53,17 @@ void WineStartTest::goStartsTheEngineThroughWineAndReturnsAtOnce() {
     ScriptedDialogs dialogs;
     SystemLauncher launcher;
     Services services{appDir, files, dialogs, launcher, [] {}};
-    const auto form = Form1::start(services);
-    form->gamePath = onDriveZ(gameDir);
-    form->levelName = "MyLevel";
-    form->modName = "BF1942";
-    form->shadowDarkness = 1.5;
-    form->TerrainCheck->setValue(1);
-    form->MergeCheck->setValue(1);
-    form->ObjectCheck->setValue(1);
+    const auto window = MainWindow::start(services);
+    window->applyConfiguration(
+        {toText(onDriveZ(gameDir)), U"MyLevel", U"BF1942", 1.5, {true, true, true}});
 
-    form->menuRunGo->trigger();
+    window->goEntry->trigger();
 
     // Each start of the stand-in lasts 250 ms and Wine takes longer still to begin: a handler
     // that waited for the script would come back to a complete log.
     const QString log = gameDir + "/BF1942.log";
     QCOMPARE_LT(linesOf(log).size(), 9);
-    QCOMPARE(form->StatusBar1->SimpleText(), "Running batch lighting... You may exit.");
+    QCOMPARE(window->statusLine->SimpleText(), "Running batch lighting... You may exit.");
     QVERIFY(dialogs.boxes.isEmpty());
 
     QTRY_COMPARE_WITH_TIMEOUT(linesOf(log).size(), 9, 30000);

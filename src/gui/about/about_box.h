@@ -10,29 +10,29 @@ class QPushButton;
 
 namespace umbrakit {
 
-class FrmAboutWindow : public QDialog {
+class AboutWindow : public QDialog {
     Q_OBJECT
   public:
-    FrmAboutWindow();
+    AboutWindow();
 
-    QPushButton* cmdOK;
-    QLabel* picIcon;
-    QLabel* lblDescription;
-    QLabel* lblTitle;
-    QLabel* lblVersion;
+    // Object names are the classic ones (cmdOK, picIcon, ...).
+    QPushButton* okButton;
+    QLabel* icon;
+    QLabel* contactLabel;
+    QLabel* titleLabel;
+    QLabel* versionLabel;
 };
 
-class FrmAbout {
+class AboutBox {
   public:
-    void Show(); // loads the window if needed and shows it, modeless and without owner
-    void Unload();
-    void cmdOK_Click() { Unload(); }
+    void show(); // loads the window if needed and shows it, modeless and without owner
+    void unload();
 
     bool isLoaded() const { return !window_.isNull(); }
-    FrmAboutWindow* window() const { return window_; }
+    AboutWindow* window() const { return window_; }
 
   private:
-    QPointer<FrmAboutWindow> window_;
+    QPointer<AboutWindow> window_;
 };
 
 } // namespace umbrakit

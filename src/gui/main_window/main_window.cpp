@@ -5,9 +5,11 @@
 #include <QMenuBar>
 #include <QPushButton>
 
-#include "gui/paths_dialog/paths_dialog.h"
+#include "core/world_size.h"
 #include "gui/about/about_box.h"
 #include "gui/about/resources.h"
+#include "gui/main_window/patch_grid.h"
+#include "gui/paths_dialog/paths_dialog.h"
 #include "platform/click_check_box.h"
 #include "platform/combo_list.h"
 #include "platform/form_timer.h"
@@ -17,7 +19,7 @@
 
 namespace umbrakit {
 
-Form1::Form1(Services& services) : cDialog(services.dialogs), services(services) {
+MainWindow::MainWindow(Services& services) : services(services), fileDialog_(services.dialogs) {
     loadResources();
     buildControls();
     buildMenu();
@@ -26,48 +28,110 @@ Form1::Form1(Services& services) : cDialog(services.dialogs), services(services)
     resize(twips(4950), twips(7350) + menuBar()->sizeHint().height());
 }
 
-Form1::~Form1() = default;
+MainWindow::~MainWindow() = default;
 
-std::unique_ptr<Form1> Form1::start(Services& services) {
-    auto form = std::make_unique<Form1>(services);
-    form->Form_Load();
-    form->show();
-    return form;
+std::unique_ptr<MainWindow> MainWindow::start(Services& services) {
+    auto window = std::make_unique<MainWindow>(services);
+    window->load();
+    window->show();
+    return window;
 }
 
-void Form1::connectHandlers() {
-    connect(Combo1, &ComboList::Click, this, &Form1::Combo1_Click);
-    connect(CheckAll, &QPushButton::clicked, this, &Form1::CheckAll_Click);
-    connect(ClearAll, &QPushButton::clicked, this, &Form1::ClearAll_Click);
-    connect(TerrainCheck, &ClickCheckBox::Click, this, &Form1::TerrainCheck_Click);
-    connect(MergeCheck, &ClickCheckBox::Click, this, &Form1::MergeCheck_Click);
-    connect(ObjectCheck, &ClickCheckBox::Click, this, &Form1::ObjectCheck_Click);
-    connect(lmList_Button, &QPushButton::clicked, this, &Form1::lmList_Button_Click);
-    connect(Go_Button, &QPushButton::clicked, this, &Form1::Go_Button_Click);
-    connect(Timer1, &FormTimer::Timer, this, &Form1::Timer1_Timer);
+void MainWindow::connectHandlers() {
+    connect(worldSizeList, &ComboList::Click, this, &MainWindow::showWorldSize);
+    connect(selectAllButton, &QPushButton::clicked, this, &MainWindow::selectAllPatches);
+    connect(clearSelectionButton, &QPushButton::clicked, this, &MainWindow::clearSelection);
+    for (Pass pass : kPasses) {
+        const auto index = std::size_t(pass);
+        connect(passBoxes[index], &ClickCheckBox::Click, this, [this, pass] { followPassBox(pass); });
+        connect(passEntries[index], &MenuEntry::Click, this, [this, pass] { togglePass(pass); });
+    }
+    connect(exportButton, &QPushButton::clicked, this, &MainWindow::exportPatchList);
+    connect(exportEntry, &MenuEntry::Click, this, &MainWindow::exportPatchList);
+    connect(runLightingButton, &QPushButton::clicked, this, &MainWindow::runLighting);
+    connect(goEntry, &MenuEntry::Click, this, &MainWindow::runLighting);
+    connect(setPathsEntry, &MenuEntry::Click, this, &MainWindow::openPathsDialog);
+    connect(retiredSaveEntry, &MenuEntry::Click, this, &MainWindow::pointToPathsDialog);
+    connect(retiredLoadEntry, &MenuEntry::Click, this, &MainWindow::pointToPathsDialog);
+    connect(aboutEntry, &MenuEntry::Click, this, &MainWindow::showAbout);
+    connect(exitEntry, &MenuEntry::Click, this, &MainWindow::exitProgram);
+    connect(statusTimer, &FormTimer::Timer, this, &MainWindow::returnStatusToReady);
+}
 
-    connect(menuFileSave, &MenuEntry::Click, this, &Form1::menuFileSave_Click);
-    connect(menuFileLoad, &MenuEntry::Click, this, &Form1::menuFileLoad_Click);
-    connect(menuFilePaths, &MenuEntry::Click, this, &Form1::menuFilePaths_Click);
-    connect(menuFileExit, &MenuEntry::Click, this, &Form1::menuFileExit_Click);
-    connect(menuRunlmList, &MenuEntry::Click, this, &Form1::menuRunlmList_Click);
-    connect(menuRunTerrain, &MenuEntry::Click, this, &Form1::menuRunTerrain_Click);
-    connect(menuRunMerge, &MenuEntry::Click, this, &Form1::menuRunMerge_Click);
-    connect(menuRunObject, &MenuEntry::Click, this, &Form1::menuRunObject_Click);
-    connect(menuRunGo, &MenuEntry::Click, this, &Form1::menuRunGo_Click);
-    connect(menuAbout, &MenuEntry::Click, this, &Form1::menuAbout_Click);
+// The world sizes are offered and "4x4" chosen, which brings the grid into its first state.
+void MainWindow::load() {
+    for (const char* caption : {"4x4", "8x8", "16x16", "32x32"})
+        worldSizeList->AddItem(caption);
+    worldSizeList->setListIndex(0);
+    configuration_.shadowDarkness = 1.5;
+}
+
+void MainWindow::showWorldSize() {
+    patchGrid->showWorld(worldSizeFor(worldSizeList->ListIndex()));
+}
+
+void MainWindow::selectAllPatches() {
+    patchGrid->selectAll(worldSizeFor(worldSizeList->ListIndex()));
+}
+
+void MainWindow::clearSelection() {
+    patchGrid->clear();
+}
+
+void MainWindow::applyConfiguration(const Configuration& configuration) {
+    configuration_.gamePath = configuration.gamePath;
+    configuration_.levelName = configuration.levelName;
+    configuration_.modName = configuration.modName;
+    configuration_.shadowDarkness = configuration.shadowDarkness;
+    for (Pass pass : kPasses)
+        passBoxes[std::size_t(pass)]->setValue(configuration.passes[pass] ? 1 : 0);
+}
+
+// "Configuring Paths..." stands only while the dialog loads; it opens modeless beside this one.
+void MainWindow::openPathsDialog() {
+    statusLine->setSimpleText("Configuring Paths...");
+    if (!pathsDialog_)
+        pathsDialog_ = std::make_unique<PathsDialog>(*this);
+    pathsDialog_->show();
+    statusLine->setSimpleText("Ready.");
+}
+
+// The retired Save and Load of the File menu: saved configurations live in the paths dialog.
+void MainWindow::pointToPathsDialog() {
+    services.dialogs.msgBox("Please Use the Paths Dialog to manage saved configurations",
+                            {MsgBoxButtons::Ok, MsgBoxIcon::Information}, "Depreciated");
+}
+
+void MainWindow::showAbout() {
+    if (!aboutBox_)
+        aboutBox_ = std::make_unique<AboutBox>();
+    aboutBox_->show();
+}
+
+void MainWindow::exitProgram() {
+    services.end();
 }
 
 // Closing the main window ends the program, whatever other window is shown or hidden: a
 // hidden dialog must not keep it alive with nothing left on the screen.
-void Form1::closeEvent(QCloseEvent* event) {
+void MainWindow::closeEvent(QCloseEvent* event) {
     event->accept();
     services.end();
 }
 
-void Form1::reportFileFailure(const QString& what, const QString& path, const QString& reason) {
+void MainWindow::report(const QString& outcome) {
+    statusLine->setSimpleText(outcome);
+    statusTimer->setEnabled(true);
+}
+
+void MainWindow::returnStatusToReady() {
+    statusLine->setSimpleText("Ready.");
+    statusTimer->setEnabled(false);
+}
+
+void MainWindow::tellFileFailure(const QString& what, const QString& path, const QString& reason) {
     services.dialogs.msgBox(what + "\n\n" + QDir::toNativeSeparators(path) + "\n\n" + reason,
-                            MsgBoxStyle::Critical, QString());
+                            {MsgBoxButtons::Ok, MsgBoxIcon::Critical}, QString());
 }
 
 } // namespace umbrakit

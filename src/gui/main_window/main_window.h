@@ -1,15 +1,15 @@
 // The main window: the current configuration, the patch grid, the pass options and the
-// commands that export lmList.dat and run the lighting.
+// commands that export lmList.dat and run the lighting. The configuration lives here alone;
+// the pass boxes and the menu ticks show its passes.
 #pragma once
 
 #include <QMainWindow>
 #include <array>
 #include <memory>
 
+#include "core/configuration.h"
 #include "platform/common_dialog.h"
 #include "platform/services.h"
-
-class QCheckBox;
 
 class QLabel;
 class QMenu;
@@ -17,91 +17,57 @@ class QPushButton;
 
 namespace umbrakit {
 
+class AboutBox;
 class ClassicFrame;
 class ClickCheckBox;
 class ComboList;
 class FormTimer;
-class FrmAbout;
 class MenuEntry;
+class PatchGrid;
 class PathsDialog;
 class StatusBar;
 
-class Form1 : public QMainWindow {
+class MainWindow : public QMainWindow {
     Q_OBJECT
   public:
-    explicit Form1(Services& services);
-    ~Form1() override;
+    explicit MainWindow(Services& services);
+    ~MainWindow() override;
 
-    // Creates the window, runs Form_Load and shows it: the start of the program.
-    static std::unique_ptr<Form1> start(Services& services);
+    // Creates the window, loads it and shows it: the start of the program.
+    static std::unique_ptr<MainWindow> start(Services& services);
 
-    // The current configuration.
-    QString gamePath;
-    QString levelName;
-    QString modName;
-    double shadowDarkness = 0;
-    qint16 terrainBoolean = 0; // 0 is False, -1 is True
-    qint16 mergeBoolean = 0;
-    qint16 objectBoolean = 0;
+    const Configuration& configuration() const { return configuration_; }
+    // What OK of the paths dialog does: the texts and the darkness are taken over, and each
+    // pass box is set, so that a real change moves the pass and its tick along.
+    void applyConfiguration(const Configuration& configuration);
 
-    // Controls.
-    QLabel* TitleLabel;
-    ComboList* Combo1;
-    QPushButton* CheckAll;
-    QPushButton* ClearAll;
-    std::array<QCheckBox*, 256> CheckBoxArray;
-    std::array<QLabel*, 32> Label; // Label[0] is Label1
-    ClassicFrame* Frame1;
-    ClickCheckBox* TerrainCheck;
-    ClickCheckBox* MergeCheck;
-    ClickCheckBox* ObjectCheck;
-    ClassicFrame* Frame2;
-    QPushButton* lmList_Button;
-    QPushButton* Go_Button;
-    StatusBar* StatusBar1;
-    FormTimer* Timer1;
-    CommonDialog cDialog;
+    // Controls; their object names are the classic ones (Combo1, Go_Button, ...).
+    QLabel* titleLabel;
+    ComboList* worldSizeList;
+    QPushButton* selectAllButton;
+    QPushButton* clearSelectionButton;
+    PatchGrid* patchGrid;
+    ClassicFrame* optionsFrame;
+    std::array<ClickCheckBox*, 3> passBoxes; // by Pass
+    ClassicFrame* executeFrame;
+    QPushButton* exportButton;
+    QPushButton* runLightingButton;
+    StatusBar* statusLine;
+    FormTimer* statusTimer;
 
-    // Menu.
-    QMenu* menuFile;
-    MenuEntry* menuFileSave;
-    MenuEntry* menuFileLoad;
-    MenuEntry* menuFilePaths;
-    MenuEntry* menuFileExit;
-    QMenu* menuRun;
-    MenuEntry* menuRunlmList;
-    QMenu* menuRunOption;
-    MenuEntry* menuRunTerrain;
-    MenuEntry* menuRunMerge;
-    MenuEntry* menuRunObject;
-    MenuEntry* menuRunGo;
-    MenuEntry* menuAbout;
+    // Menu entries.
+    MenuEntry* retiredSaveEntry;
+    MenuEntry* retiredLoadEntry;
+    MenuEntry* setPathsEntry;
+    MenuEntry* exitEntry;
+    MenuEntry* exportEntry;
+    std::array<MenuEntry*, 3> passEntries; // by Pass
+    MenuEntry* goEntry;
+    MenuEntry* aboutEntry;
 
     // The other windows, created at first use and kept to the end of the program.
     PathsDialog* pathsDialog() const { return pathsDialog_.get(); }
-    FrmAbout* frmAbout() const { return frmAbout_.get(); }
-
-    // Handlers.
-    void Form_Load();
-    void Timer1_Timer();
-    void menuFileExit_Click();
-    void Combo1_Click();
-    void CheckAll_Click();
-    void ClearAll_Click();
-    void lmList_Button_Click();
-    void menuRunlmList_Click();
-    void Go_Button_Click();
-    void menuRunGo_Click();
-    void TerrainCheck_Click();
-    void MergeCheck_Click();
-    void ObjectCheck_Click();
-    void menuRunTerrain_Click();
-    void menuRunMerge_Click();
-    void menuRunObject_Click();
-    void menuFilePaths_Click();
-    void menuFileSave_Click();
-    void menuFileLoad_Click();
-    void menuAbout_Click();
+    AboutBox* aboutBox() const { return aboutBox_.get(); }
 
     Services& services;
 
@@ -109,14 +75,33 @@ class Form1 : public QMainWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    // Handlers, in the order the user meets them.
+    void load();
+    void showWorldSize();
+    void selectAllPatches();
+    void clearSelection();
+    void followPassBox(Pass pass);
+    void togglePass(Pass pass);
+    void exportPatchList();
+    void runLighting();
+    void openPathsDialog();
+    void pointToPathsDialog();
+    void showAbout();
+    void exitProgram();
+    void returnStatusToReady();
+
     void buildControls();
     void buildMenu();
     void connectHandlers();
     void setTabOrder();
-    void reportFileFailure(const QString& what, const QString& path, const QString& reason);
+    // An outcome on the status line, cleared by the status timer.
+    void report(const QString& outcome);
+    void tellFileFailure(const QString& what, const QString& path, const QString& reason);
 
+    Configuration configuration_;
+    CommonDialog fileDialog_;
     std::unique_ptr<PathsDialog> pathsDialog_;
-    std::unique_ptr<FrmAbout> frmAbout_;
+    std::unique_ptr<AboutBox> aboutBox_;
 };
 
 } // namespace umbrakit

@@ -1,6 +1,4 @@
-// The controls of the main window, each at its place and size.
-#include <QCheckBox>
-
+// The controls and the menu of the main window, each at its place.
 #include <QLabel>
 #include <QMenuBar>
 #include <QPalette>
@@ -8,8 +6,7 @@
 #include <QStyleFactory>
 
 #include "gui/main_window/main_window.h"
-#include "core/world_size.h"
-#include "platform/accessible_names.h"
+#include "gui/main_window/patch_grid.h"
 #include "platform/classic_font.h"
 #include "platform/classic_frame.h"
 #include "platform/click_check_box.h"
@@ -25,14 +22,13 @@ namespace {
 constexpr int kClientWidth = 4950;
 constexpr int kClientHeight = 7350;
 constexpr int kStatusTop = 7065;
-constexpr int kTimerInterval = 7500;
+constexpr int kStatusInterval = 7500;
 
-QString twoDigits(int number) {
-    return QString::number(number).rightJustified(2, '0');
-}
+const char* const kPassCaptions[] = {"Generate &TerrainShadows", "&Merge TerrainShadows",
+                                     "Generate &ObjectShadows"};
 } // namespace
 
-void Form1::buildControls() {
+void MainWindow::buildControls() {
     setObjectName("Form1");
     setWindowTitle("Umbrakit");
     setFont(defaultControlFont());
@@ -43,69 +39,48 @@ void Form1::buildControls() {
     client->setFixedSize(twips(kClientWidth), twips(kStatusTop));
     setCentralWidget(client);
 
-    TitleLabel = place(new QLabel("Umbrakit and lmList.dat Generator", client), "TitleLabel", 15, 0,
-                       4905, 465);
-    TitleLabel->setAlignment(Qt::AlignCenter);
-    TitleLabel->setWordWrap(true);
-    TitleLabel->setFont(labelFont(true));
+    titleLabel = place(new QLabel("Umbrakit and lmList.dat Generator", client), "TitleLabel", 15,
+                       0, 4905, 465);
+    titleLabel->setAlignment(Qt::AlignCenter);
+    titleLabel->setWordWrap(true);
+    titleLabel->setFont(labelFont(true));
 
-    Combo1 = place(new ComboList(client), "Combo1", 30, 510, 1035, 315);
-    Combo1->setAccessibleName("World size");
-    CheckAll = place(new QPushButton("Select &All", client), "CheckAll", 1155, 510, 1755, 315);
-    ClearAll = place(new QPushButton("&Clear Selection", client), "ClearAll", 3000, 510, 1965, 315);
+    worldSizeList = place(new ComboList(client), "Combo1", 30, 510, 1035, 315);
+    worldSizeList->setAccessibleName("World size");
+    selectAllButton =
+        place(new QPushButton("Select &All", client), "CheckAll", 1155, 510, 1755, 315);
+    clearSelectionButton =
+        place(new QPushButton("&Clear Selection", client), "ClearAll", 3000, 510, 1965, 315);
+    patchGrid = new PatchGrid(client);
 
-    for (int c = 0; c < kGridSide; ++c) {
-        const QByteArray name = "Label" + QByteArray::number(c + 1);
-        Label[c] =
-            place(new QLabel(twoDigits(c), client), name.constData(), 225 + 300 * c, 885, 240, 240);
-    }
-    for (int r = 0; r < kGridSide; ++r) {
-        const QByteArray name = "Label" + QByteArray::number(32 - r);
-        Label[31 - r] =
-            place(new QLabel(twoDigits(r), client), name.constData(), 0, 5610 - 300 * r, 240, 240);
-    }
-    for (QLabel* label : Label)
-        label->setAlignment(Qt::AlignCenter);
+    optionsFrame = place(new ClassicFrame("Options", client), "Frame1", 0, 5880, 2535, 1170);
+    const char* const passNames[] = {"TerrainCheck", "MergeCheck", "ObjectCheck"};
+    for (std::size_t pass = 0; pass < passBoxes.size(); ++pass)
+        passBoxes[pass] = place(new ClickCheckBox(kPassCaptions[pass], optionsFrame),
+                                passNames[pass], 105, 210 + 315 * int(pass), 2220, 225);
 
-    for (int i = 0; i < kPatchCount; ++i) {
-        const QByteArray name = "CheckBoxArray_" + QByteArray::number(i);
-        QCheckBox* patch = place(new QCheckBox(client), name.constData(),
-                                 225 + 300 * patchColumn(i), 5610 - 300 * patchRow(i), 240, 240);
-        patch->setEnabled(false);
-        patch->setAccessibleName(
-            QString("Patch column %1, row %2").arg(patchColumn(i)).arg(patchRow(i)));
-        CheckBoxArray[i] = patch;
-    }
-
-    Frame1 = place(new ClassicFrame("Options", client), "Frame1", 0, 5880, 2535, 1170);
-    TerrainCheck = place(new ClickCheckBox("Generate &TerrainShadows", Frame1), "TerrainCheck", 105,
-                         210, 2220, 225);
-    MergeCheck = place(new ClickCheckBox("&Merge TerrainShadows", Frame1), "MergeCheck", 105, 525,
-                       2220, 225);
-    ObjectCheck = place(new ClickCheckBox("Generate &ObjectShadows", Frame1), "ObjectCheck", 105,
-                        840, 2220, 225);
-
-    Frame2 = place(new ClassicFrame("Execute", client), "Frame2", 2625, 5880, 2325, 1170);
-    lmList_Button =
-        place(new QPushButton("&Export lmList.dat", Frame2), "lmList_Button", 210, 210, 1995, 375);
-    Go_Button = place(new QPushButton("Run &Lighting", Frame2), "Go_Button", 210, 700, 2010, 375);
+    executeFrame = place(new ClassicFrame("Execute", client), "Frame2", 2625, 5880, 2325, 1170);
+    exportButton = place(new QPushButton("&Export lmList.dat", executeFrame), "lmList_Button",
+                         210, 210, 1995, 375);
+    runLightingButton =
+        place(new QPushButton("Run &Lighting", executeFrame), "Go_Button", 210, 700, 2010, 375);
     // Fusion draws a button in its palette colour on every platform; the native styles may not.
-    Go_Button->setStyle(QStyleFactory::create("Fusion"));
-    QPalette green = Go_Button->palette();
+    runLightingButton->setStyle(QStyleFactory::create("Fusion"));
+    QPalette green = runLightingButton->palette();
     green.setColor(QPalette::Button, QColor(0, 255, 0));
-    Go_Button->setPalette(green);
+    runLightingButton->setPalette(green);
 
-    StatusBar1 = new StatusBar(this);
-    StatusBar1->setObjectName("StatusBar1");
-    StatusBar1->setFixedHeight(twips(kClientHeight - kStatusTop));
-    StatusBar1->setSimpleText("Ready.");
-    setStatusBar(StatusBar1);
+    statusLine = new StatusBar(this);
+    statusLine->setObjectName("StatusBar1");
+    statusLine->setFixedHeight(twips(kClientHeight - kStatusTop));
+    statusLine->setSimpleText("Ready.");
+    setStatusBar(statusLine);
 
-    Timer1 = new FormTimer(kTimerInterval, this);
-    Timer1->setObjectName("Timer1");
+    statusTimer = new FormTimer(kStatusInterval, this);
+    statusTimer->setObjectName("Timer1");
 }
 
-void Form1::buildMenu() {
+void MainWindow::buildMenu() {
     auto entry = [this](QMenu* menu, const char* name, const QString& caption,
                         const QString& shortcut = QString()) {
         auto* action = new MenuEntry(name, caption, this);
@@ -118,43 +93,44 @@ void Form1::buildMenu() {
         menu->addSeparator()->setObjectName(name);
     };
 
-    menuFile = menuBar()->addMenu("&File");
-    menuFile->setObjectName("menuFile");
-    menuFileSave = entry(menuFile, "menuFileSave", "&Save", "Ctrl+S");
-    menuFileLoad = entry(menuFile, "menuFileLoad", "&Load", "Ctrl+L");
-    separator(menuFile, "seperator1");
-    menuFilePaths = entry(menuFile, "menuFilePaths", "Set &Paths", "Ctrl+P");
-    separator(menuFile, "seperator2");
-    menuFileExit = entry(menuFile, "menuFileExit", "E&xit");
+    QMenu* file = menuBar()->addMenu("&File");
+    file->setObjectName("menuFile");
+    retiredSaveEntry = entry(file, "menuFileSave", "&Save", "Ctrl+S");
+    retiredLoadEntry = entry(file, "menuFileLoad", "&Load", "Ctrl+L");
+    separator(file, "seperator1");
+    setPathsEntry = entry(file, "menuFilePaths", "Set &Paths", "Ctrl+P");
+    separator(file, "seperator2");
+    exitEntry = entry(file, "menuFileExit", "E&xit");
 
-    menuRun = menuBar()->addMenu("&Run");
-    menuRun->setObjectName("menuRun");
-    menuRunlmList = entry(menuRun, "menuRunlmList", "Export &lmList.dat", "Ctrl+E");
-    separator(menuRun, "seperator3");
-    menuRunOption = menuRun->addMenu("&Options");
-    menuRunOption->setObjectName("menuRunOption");
-    menuRunTerrain = entry(menuRunOption, "menuRunTerrain", "Generate &TerrainShadows");
-    menuRunMerge = entry(menuRunOption, "menuRunMerge", "&Merge TerrainShadows");
-    menuRunObject = entry(menuRunOption, "menuRunObject", "&Generate ObjectShadows");
-    for (MenuEntry* pass : {menuRunTerrain, menuRunMerge, menuRunObject})
+    QMenu* run = menuBar()->addMenu("&Run");
+    run->setObjectName("menuRun");
+    exportEntry = entry(run, "menuRunlmList", "Export &lmList.dat", "Ctrl+E");
+    separator(run, "seperator3");
+    QMenu* options = run->addMenu("&Options");
+    options->setObjectName("menuRunOption");
+    // The object pass takes G here and O on its check box.
+    passEntries = {entry(options, "menuRunTerrain", "Generate &TerrainShadows"),
+                   entry(options, "menuRunMerge", "&Merge TerrainShadows"),
+                   entry(options, "menuRunObject", "&Generate ObjectShadows")};
+    for (MenuEntry* pass : passEntries)
         pass->setShowsTick(true);
-    separator(menuRun, "seperator4");
-    menuRunGo = entry(menuRun, "menuRunGo", "&Go!", "Ctrl+G");
+    separator(run, "seperator4");
+    goEntry = entry(run, "menuRunGo", "&Go!", "Ctrl+G");
 
-    menuAbout = new MenuEntry("menuAbout", "&About", this);
-    menuBar()->addAction(menuAbout);
+    aboutEntry = new MenuEntry("menuAbout", "&About", this);
+    menuBar()->addAction(aboutEntry);
 }
 
-void Form1::setTabOrder() {
-    QList<QWidget*> order{Combo1,     CheckAll,    ClearAll,      TerrainCheck,
-                          MergeCheck, ObjectCheck, lmList_Button, Go_Button};
-    for (QCheckBox* patch : CheckBoxArray)
-        order << patch;
+void MainWindow::setTabOrder() {
+    QList<QWidget*> order{worldSizeList, selectAllButton, clearSelectionButton};
+    for (ClickCheckBox* box : passBoxes)
+        order << box;
+    order << exportButton << runLightingButton;
+    for (int i = 0; i < kPatchCount; ++i)
+        order << patchGrid->patch(i);
     for (int i = 0; i + 1 < order.size(); ++i)
         QWidget::setTabOrder(order[i], order[i + 1]);
-    for (QLabel* label : Label)
-        label->setFocusPolicy(Qt::NoFocus);
-    Combo1->setFocus();
+    worldSizeList->setFocus();
 }
 
 } // namespace umbrakit

@@ -1,34 +1,78 @@
-// The world size and the two commands that tick and untick the patches.
-#include <QCheckBox>
+#include "gui/main_window/patch_grid.h"
 
-#include "gui/main_window/main_window.h"
-#include "core/world_size.h"
-#include "platform/combo_list.h"
+#include <QCheckBox>
+#include <QLabel>
+
+#include "platform/placement.h"
 
 namespace umbrakit {
 
-void Form1::Combo1_Click() {
-    const WorldSize world = worldSizeFor(Combo1->ListIndex());
+namespace {
+// The grid's own top in the window; its children are placed by their window twips less this.
+constexpr int kTop = 885;
+
+QString twoDigits(int number) {
+    return QString::number(number).rightJustified(2, '0');
+}
+} // namespace
+
+PatchGrid::PatchGrid(QWidget* parent) : QWidget(parent) {
+    setObjectName("patchGrid");
+    setGeometry(twipsRect(0, kTop, 4965, 5850 - kTop));
+    // Column labels "00" to "15" along the top are Label1 to Label16; row labels count upward
+    // from "00" at the bottom, Label32, to "15" at the top, Label17.
+    for (int c = 0; c < kGridSide; ++c) {
+        const QByteArray name = "Label" + QByteArray::number(c + 1);
+        axisLabels_[std::size_t(c)] = place(new QLabel(twoDigits(c), this), name.constData(),
+                                            225 + 300 * c, 885 - kTop, 240, 240);
+    }
+    for (int r = 0; r < kGridSide; ++r) {
+        const QByteArray name = "Label" + QByteArray::number(32 - r);
+        axisLabels_[std::size_t(31 - r)] = place(new QLabel(twoDigits(r), this), name.constData(),
+                                                 0, 5610 - 300 * r - kTop, 240, 240);
+    }
+    for (QLabel* label : axisLabels_) {
+        label->setAlignment(Qt::AlignCenter);
+        label->setFocusPolicy(Qt::NoFocus);
+    }
+    for (int i = 0; i < kPatchCount; ++i) {
+        const QByteArray name = "CheckBoxArray_" + QByteArray::number(i);
+        QCheckBox* box = place(new QCheckBox(this), name.constData(), 225 + 300 * patchColumn(i),
+                               5610 - 300 * patchRow(i) - kTop, 240, 240);
+        box->setEnabled(false);
+        box->setAccessibleName(
+            QString("Patch column %1, row %2").arg(patchColumn(i)).arg(patchRow(i)));
+        patches_[std::size_t(i)] = box;
+    }
+}
+
+void PatchGrid::showWorld(WorldSize world) {
     for (int index = 0; index < kPatchCount; ++index) {
-        QCheckBox* patch = CheckBoxArray[index];
+        QCheckBox* box = patches_[std::size_t(index)];
         if (isInWorld(index, world)) {
-            patch->setEnabled(true);
+            box->setEnabled(true);
         } else {
-            patch->setEnabled(false);
-            patch->setChecked(false);
+            box->setEnabled(false);
+            box->setChecked(false);
         }
     }
 }
 
-void Form1::CheckAll_Click() {
-    const WorldSize world = worldSizeFor(Combo1->ListIndex());
+void PatchGrid::selectAll(WorldSize world) {
     for (int index = 0; index < kPatchCount; ++index)
-        CheckBoxArray[index]->setChecked(isInWorld(index, world));
+        patches_[std::size_t(index)]->setChecked(isInWorld(index, world));
 }
 
-void Form1::ClearAll_Click() {
-    for (QCheckBox* patch : CheckBoxArray)
-        patch->setChecked(false);
+void PatchGrid::clear() {
+    for (QCheckBox* box : patches_)
+        box->setChecked(false);
+}
+
+PatchValues PatchGrid::values() const {
+    PatchValues values{};
+    for (int index = 0; index < kPatchCount; ++index)
+        values[std::size_t(index)] = patches_[std::size_t(index)]->isChecked() ? 1 : 0;
+    return values;
 }
 
 } // namespace umbrakit

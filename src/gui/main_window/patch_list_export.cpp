@@ -1,52 +1,44 @@
 // The export of the ticked patches as lmList.dat, to a file the user chooses.
-#include <QCheckBox>
-
-#include "gui/main_window/main_window.h"
 #include "core/lmlist_format.h"
+#include "gui/main_window/main_window.h"
+#include "gui/main_window/patch_grid.h"
 #include "platform/form_timer.h"
+#include "platform/qt_text.h"
 #include "platform/status_bar.h"
 
 namespace umbrakit {
 
-void Form1::lmList_Button_Click() {
-    StatusBar1->setSimpleText("Preparing to Save...");
-    cDialog.Filter = "lmList.dat|lmList.dat|All Files (*.*)|*.*";
-    cDialog.FileName = "lmList.dat";
-    cDialog.InitDir = gamePath + "\\ShadowWork\\bf1942\\levels\\" + levelName + "\\textures";
-    cDialog.ShowOpen();
+void MainWindow::exportPatchList() {
+    statusLine->setSimpleText("Preparing to Save...");
+    // Set afresh every time: the dialog opens in the level's textures folder and remembers no
+    // earlier answer.
+    fileDialog_.Filter = "lmList.dat|lmList.dat|All Files (*.*)|*.*";
+    fileDialog_.FileName = "lmList.dat";
+    fileDialog_.InitDir = toQString(configuration_.gamePath) + "\\ShadowWork\\bf1942\\levels\\" +
+                          toQString(configuration_.levelName) + "\\textures";
+    fileDialog_.ShowOpen();
 
-    const QString name = cDialog.FileName;
+    const QString name = fileDialog_.FileName;
     if (name.isEmpty()) {
-        StatusBar1->setSimpleText("Save Cancled.");
-        Timer1->setEnabled(true);
+        report("Save Cancled.");
         return;
     }
-    if (services.files.exists(name)) {
-        const int answer = services.dialogs.msgBox("File Exists, Do you want to overwrite?",
-                                                   MsgBoxStyle::YesNo, "File Exists...");
-        if (answer != MsgBoxResult::Yes)
-            return;
-    }
+    // Any answer but Yes leaves the old file and the status line as they are.
+    if (services.files.exists(name) &&
+        services.dialogs.msgBox("File Exists, Do you want to overwrite?", {MsgBoxButtons::YesNo},
+                                "File Exists...") != MsgBoxAnswer::Yes)
+        return;
 
-    PatchValues values{};
-    for (int index = 0; index < kPatchCount; ++index)
-        values[index] = CheckBoxArray[index]->isChecked() ? 1 : 0;
-    const std::string records = encodeLmList(values);
-
+    const std::string records = encodeLmList(patchGrid->values());
     // The old list stays whole until the new one is complete beside it.
     const FileResult written = replaceWhole(services.files, name, name + ".tmp",
                                             QByteArray(records.data(), qsizetype(records.size())));
     if (!written) {
-        reportFileFailure("lmList.dat was not saved.", name, written.reason);
-        Timer1->setEnabled(true); // the line goes back to rest; "Saved!" was never shown
+        tellFileFailure("lmList.dat was not saved.", name, written.reason);
+        statusTimer->setEnabled(true); // the line goes back to rest; "Saved!" was never shown
         return;
     }
-    StatusBar1->setSimpleText("Saved!");
-    Timer1->setEnabled(true);
-}
-
-void Form1::menuRunlmList_Click() {
-    lmList_Button_Click();
+    report("Saved!");
 }
 
 } // namespace umbrakit

@@ -3,7 +3,6 @@
 #include <QDir>
 
 #include "platform/services.h"
-#include "core/text_lines.h"
 
 namespace umbrakit {
 
@@ -11,15 +10,15 @@ QString ConfigFile::path() const {
     return services_.appFile("config.ini");
 }
 
-std::optional<std::vector<std::string>> ConfigFile::readLines(const QString& failureText) const {
+std::optional<std::string> ConfigFile::read(const QString& failureText) const {
     if (!services_.files.exists(path()))
-        return std::vector<std::string>();
+        return std::string();
     QByteArray bytes;
     if (const FileResult read = services_.files.read(path(), bytes); !read) {
         tellFailure(failureText, read.reason);
         return std::nullopt;
     }
-    return splitLines(std::string_view(bytes.constData(), std::size_t(bytes.size())));
+    return bytes.toStdString();
 }
 
 bool ConfigFile::replace(const std::string& bytes, const QString& failureText) const {
@@ -39,7 +38,7 @@ void ConfigFile::discardTemporary() const {
 void ConfigFile::tellFailure(const QString& failureText, const QString& reason) const {
     services_.dialogs.msgBox(failureText + "\n\n" + QDir::toNativeSeparators(path()) + "\n\n" +
                                  reason,
-                             MsgBoxStyle::Critical, QString());
+                             {MsgBoxButtons::Ok, MsgBoxIcon::Critical}, QString());
 }
 
 } // namespace umbrakit

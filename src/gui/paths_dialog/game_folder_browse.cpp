@@ -10,15 +10,15 @@ namespace {
 constexpr int kSeparatorAndExeName = 11;
 } // namespace
 
-void PathsDialog::Path_Click() {
-    cDialog.Filter = "Battlefield 1942|bf1942.exe";
-    cDialog.FileName = "bf1942.exe";
-    cDialog.ShowOpen();
-    const QString answer = cDialog.FileName;
+void PathsDialog::browseForGame() {
+    fileDialog_.Filter = "Battlefield 1942|bf1942.exe";
+    fileDialog_.FileName = "bf1942.exe";
+    fileDialog_.ShowOpen();
+    const QString answer = fileDialog_.FileName;
     // Only the length counts, not the name. A shorter answer has no folder to give.
     if (answer.size() < kSeparatorAndExeName)
         return;
-    controls().GamePath_Text->setText(answer.left(answer.size() - kSeparatorAndExeName));
+    controls().gamePathBox->setText(answer.left(answer.size() - kSeparatorAndExeName));
 }
 
 } // namespace umbrakit

@@ -1,16 +1,15 @@
 // The controls of the paths dialog, each at its place and size.
 #include "gui/paths_dialog/paths_dialog_window.h"
 
-#include "platform/classic_frame.h"
+#include <QCheckBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <limits>
 
-#include "platform/accessible_names.h"
 #include "platform/classic_font.h"
-#include "platform/click_check_box.h"
+#include "platform/classic_frame.h"
 #include "platform/combo_list.h"
 #include "platform/placement.h"
 
@@ -33,83 +32,70 @@ void fitCaption(QWidget* control) {
     }
 }
 
-QLabel* label(const QString& caption, QWidget* parent, const char* name, int left, int top,
-              int width, int height) {
-    QLabel* text = place(new QLabel(caption, parent), name, left, top, width, height);
+// A box's label, at the left of its row; the box is spoken by its caption.
+void label(QWidget* box, const QString& caption, const char* name, int top, int width,
+           int height) {
+    QLabel* text = place(new QLabel(caption, box->parentWidget()), name, 105, top, width, height);
     text->setFont(labelFont());
     text->setFocusPolicy(Qt::NoFocus);
     fitCaption(text);
-    return text;
-}
-
-// A text box is spoken by the caption of the label before it.
-template <typename Box> Box* namedAfter(Box* box, const QLabel* caption) {
-    QString name = caption->text();
-    name.chop(1); // the colon
-    box->setAccessibleName(name);
-    return box;
-}
-
-ClickCheckBox* passBox(const QString& caption, QWidget* parent, const char* name, int left,
-                       int width) {
-    ClickCheckBox* box = place(new ClickCheckBox(caption, parent), name, left, 2310, width, 225);
-    box->setEnabled(false);
-    fitCaption(box);
-    return box;
+    box->setAccessibleName(caption.chopped(1)); // without the colon
 }
 } // namespace
 
 PathsDialogWindow::PathsDialogWindow() : QDialog(nullptr, kFixedDialogFlags) {
     setUpFixedDialog(*this, "PathsDialog", "Set Paths...", kClientWidth, kClientHeight);
 
-    Delete = place(new QPushButton("Delete", this), "Delete", 5670, 0, 960, 330);
-    SavedSettings = place(new ComboList(this), "SavedSettings", 1365, 0, 4215, 315);
-    Frame1 = place(new ClassicFrame("Paths", this), "Frame1", 0, 315, 6630, 2640);
-    Label5 = label("Load Setting:", this, "Label5", 105, 0, 1170, 330);
-    namedAfter(SavedSettings, Label5);
+    deleteButton = place(new QPushButton("Delete", this), "Delete", 5670, 0, 960, 330);
+    savedList = place(new ComboList(this), "SavedSettings", 1365, 0, 4215, 315);
+    pathsFrame = place(new ClassicFrame("Paths", this), "Frame1", 0, 315, 6630, 2640);
+    label(savedList, "Load Setting:", "Label5", 0, 1170, 330);
 
-    TerrainCheck = passBox("Generate &TerrainShadows", Frame1, "TerrainCheck", 105, 2220);
-    MergeCheck = passBox("&Merge TerrainShadows", Frame1, "MergeCheck", 2310, 2010);
-    ObjectCheck = passBox("Generate &ObjectShadows", Frame1, "ObjectCheck", 4305, 2220);
-    Save = place(new QPushButton("Save", Frame1), "Save", 5670, 210, 855, 330);
-    SettingName_Text = place(new QLineEdit(Frame1), "SettingName_Text", 1470, 210, 4110, 285);
-    shadow_Text = place(new QLineEdit(Frame1), "shadow_Text", 1890, 1890, 1380, 285);
-    ModName_Text = place(new ComboList(Frame1), "ModName_Text", 1470, 1470, 5055, 315);
-    ModName_Text->setEditable(true);
-    ModName_Text->setInsertPolicy(QComboBox::NoInsert); // Enter is for OK, not for a new row
-    LevelName_Text = place(new QLineEdit(Frame1), "LevelName_Text", 1470, 1050, 5055, 285);
-    Path = place(new QPushButton("...", Frame1), "Path", 6195, 630, 285, 285);
-    Path->setAccessibleDescription("Browse for bf1942.exe");
-    GamePath_Text = place(new QLineEdit(Frame1), "GamePath_Text", 1470, 630, 4635, 285);
-    OKButton = place(new QPushButton("&OK", Frame1), "OKButton", 3990, 1890, 1215, 375);
-    OKButton->setDefault(true);
-    CancelButton = place(new QPushButton("&Cancel", Frame1), "CancelButton", 5250, 1890, 1215, 375);
-    Label6 = label("Setting Name:", Frame1, "Label6", 105, 210, 1275, 330);
-    Label4 = label("Shadow Darkness:", Frame1, "Label4", 105, 1890, 1800, 285);
-    Label3 = label("Mod Name:", Frame1, "Label3", 105, 1470, 1170, 285);
-    Label1 = label("Game Path:", Frame1, "Label1", 105, 630, 1170, 330);
-    Label2 = label("Level Name:", Frame1, "Label2", 105, 1050, 1170, 285);
-    namedAfter(SettingName_Text, Label6);
-    namedAfter(GamePath_Text, Label1);
-    namedAfter(LevelName_Text, Label2);
-    namedAfter(ModName_Text, Label3);
-    namedAfter(shadow_Text, Label4);
+    const char* const passCaptions[] = {"Generate &TerrainShadows", "&Merge TerrainShadows",
+                                        "Generate &ObjectShadows"};
+    const char* const passNames[] = {"TerrainCheck", "MergeCheck", "ObjectCheck"};
+    const int passLefts[] = {105, 2310, 4305};
+    const int passWidths[] = {2220, 2010, 2220};
+    for (std::size_t pass = 0; pass < passBoxes.size(); ++pass) {
+        passBoxes[pass] = place(new QCheckBox(passCaptions[pass], pathsFrame), passNames[pass],
+                                passLefts[pass], 2310, passWidths[pass], 225);
+        passBoxes[pass]->setEnabled(false);
+        fitCaption(passBoxes[pass]);
+    }
+    saveButton = place(new QPushButton("Save", pathsFrame), "Save", 5670, 210, 855, 330);
+    nameBox = place(new QLineEdit(pathsFrame), "SettingName_Text", 1470, 210, 4110, 285);
+    darknessBox = place(new QLineEdit(pathsFrame), "shadow_Text", 1890, 1890, 1380, 285);
+    modBox = place(new ComboList(pathsFrame), "ModName_Text", 1470, 1470, 5055, 315);
+    modBox->setEditable(true);
+    modBox->setInsertPolicy(QComboBox::NoInsert); // Enter is for OK, not for a new row
+    levelBox = place(new QLineEdit(pathsFrame), "LevelName_Text", 1470, 1050, 5055, 285);
+    browseButton = place(new QPushButton("...", pathsFrame), "Path", 6195, 630, 285, 285);
+    browseButton->setAccessibleDescription("Browse for bf1942.exe");
+    gamePathBox = place(new QLineEdit(pathsFrame), "GamePath_Text", 1470, 630, 4635, 285);
+    okButton = place(new QPushButton("&OK", pathsFrame), "OKButton", 3990, 1890, 1215, 375);
+    okButton->setDefault(true);
+    cancelButton =
+        place(new QPushButton("&Cancel", pathsFrame), "CancelButton", 5250, 1890, 1215, 375);
+    label(nameBox, "Setting Name:", "Label6", 210, 1275, 330);
+    label(darknessBox, "Shadow Darkness:", "Label4", 1890, 1800, 285);
+    label(modBox, "Mod Name:", "Label3", 1470, 1170, 285);
+    label(gamePathBox, "Game Path:", "Label1", 630, 1170, 330);
+    label(levelBox, "Level Name:", "Label2", 1050, 1170, 285);
     // A value of config.ini is shown whole however long it is, or a save would write it cut.
-    for (QLineEdit* box :
-         {SettingName_Text, GamePath_Text, LevelName_Text, ModName_Text->lineEdit(), shadow_Text})
+    for (QLineEdit* box : {nameBox, gamePathBox, levelBox, modBox->lineEdit(), darknessBox})
         box->setMaxLength(std::numeric_limits<int>::max());
 
     setTabOrder();
 }
 
 void PathsDialogWindow::setTabOrder() {
-    const QList<QWidget*> order{SavedSettings, SettingName_Text, Save,         GamePath_Text,
-                                Path,          LevelName_Text,   ModName_Text, shadow_Text,
-                                OKButton,      CancelButton,     Delete};
+    const QList<QWidget*> order{savedList, nameBox,  saveButton,  gamePathBox,
+                                browseButton, levelBox, modBox,   darknessBox,
+                                okButton,  cancelButton, deleteButton};
     for (int i = 0; i + 1 < order.size(); ++i)
         QWidget::setTabOrder(order[i], order[i + 1]);
-    Frame1->setFocusPolicy(Qt::NoFocus);
-    SavedSettings->setFocus();
+    pathsFrame->setFocusPolicy(Qt::NoFocus);
+    savedList->setFocus();
 }
 
 void PathsDialogWindow::keyPressEvent(QKeyEvent* event) {

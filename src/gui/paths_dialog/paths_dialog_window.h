@@ -3,16 +3,15 @@
 #pragma once
 
 #include <QDialog>
+#include <array>
 
-
-class QLabel;
+class QCheckBox;
 class QLineEdit;
 class QPushButton;
 
 namespace umbrakit {
 
 class ClassicFrame;
-class ClickCheckBox;
 class ComboList;
 
 class PathsDialogWindow : public QDialog {
@@ -20,29 +19,20 @@ class PathsDialogWindow : public QDialog {
   public:
     PathsDialogWindow();
 
-    QPushButton* Delete;
-    ComboList* SavedSettings;
-    ClassicFrame* Frame1;
-    QLabel* Label5;
-
-    // Inside Frame1.
-    ClickCheckBox* TerrainCheck; // display only: the dialog's Booleans are what count
-    ClickCheckBox* MergeCheck;
-    ClickCheckBox* ObjectCheck;
-    QPushButton* Save;
-    QLineEdit* SettingName_Text;
-    QLineEdit* shadow_Text;
-    ComboList* ModName_Text;
-    QLineEdit* LevelName_Text;
-    QPushButton* Path;
-    QLineEdit* GamePath_Text;
-    QPushButton* OKButton;
-    QPushButton* CancelButton;
-    QLabel* Label6;
-    QLabel* Label4;
-    QLabel* Label3;
-    QLabel* Label1;
-    QLabel* Label2;
+    // Object names are the classic ones (SavedSettings, SettingName_Text, ...).
+    ComboList* savedList;
+    QPushButton* deleteButton;
+    ClassicFrame* pathsFrame;
+    QLineEdit* nameBox;
+    QPushButton* saveButton;
+    QLineEdit* gamePathBox;
+    QPushButton* browseButton;
+    QLineEdit* levelBox;
+    ComboList* modBox;
+    QLineEdit* darknessBox;
+    QPushButton* okButton;
+    QPushButton* cancelButton;
+    std::array<QCheckBox*, 3> passBoxes; // by Pass; they only show the dialog's passes
 
   protected:
     // Esc is no way out: Cancel is not the window's cancel button. A close by the border

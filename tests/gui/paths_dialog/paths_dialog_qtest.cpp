@@ -1,0 +1,177 @@
+// The paths dialog through its controls: its keys, opening, Cancel, OK and the close box, the
+// saved settings seen in the list and in config.ini, and the game folder browse. What a row,
+// a Save or a Delete does to the values is tested on the core; failing file operations in
+// tests/reliability.
+#include <QSignalSpy>
+#include <QtTest>
+
+#include "platform/click_check_box.h"
+#include "platform/form_timer.h"
+#include "support/dialog_driver.h"
+
+using namespace umbrakit;
+
+class PathsDialogTest : public QObject {
+    Q_OBJECT
+  private slots:
+    void keysOfTheWindow() {
+        TestApp app;
+        PathsDialogWindow& w = openPaths(app);
+        QVERIFY(QTest::qWaitForWindowActive(&w));
+        QCOMPARE(QApplication::focusWidget(), w.savedList);
+        QVERIFY(!w.parentWidget() && !w.isModal());
+        QSignalSpy okPressed(w.okButton, &QPushButton::clicked);
+        QTest::keyClick(w.levelBox, Qt::Key_Escape); // no way out
+        QVERIFY(w.isVisible() && app.window->pathsDialog()->isLoaded());
+
+        // Enter is OK, from a text box and from the mod list's typing box, which gets no row.
+        QTest::keyClick(w.levelBox, Qt::Key_Return);
+        QTest::keyClick(w.modBox->lineEdit(), Qt::Key_Enter);
+        QCOMPARE(okPressed.count(), 2);
+        QCOMPARE(app.dialogs.boxes.last().prompt, QString("Please complete all entries."));
+        QCOMPARE(w.modBox->ListCount(), 3);
+
+        // Access keys: the disabled pass boxes take neither O nor T; C is Cancel, which hides.
+        QTest::keyClick(&w, Qt::Key_O, Qt::AltModifier);
+        QTRY_COMPARE(okPressed.count(), 3);
+        QTest::keyClick(&w, Qt::Key_T, Qt::AltModifier);
+        QTest::keyClick(&w, Qt::Key_C, Qt::AltModifier);
+        QTRY_VERIFY(!w.isVisible());
+        QVERIFY(texts(w).endsWith("|000") && app.window->pathsDialog()->isLoaded());
+    }
+
+    void cancelKeepsEverythingForTheNextOpeningAndOkAppliesIt() {
+        TestApp app;
+        app.write("config.ini", record("Wake", "D:\\BF", "Wake", "BF1942", "110", "2"));
+        app.window->passEntries[int(Pass::Terrain)]->trigger();
+        PathsDialogWindow& w = openPaths(app);
+        QVERIFY(app.status() == "Ready." && !app.window->statusTimer->Enabled());
+        QCOMPARE(texts(w), "(Current)||||1.5|100");
+        chooseRow(w.savedList, 1); // terrain and merge
+        type(w.levelBox, "Level =1");
+        type(w.modBox->lineEdit(), "Not A Listed Mod");
+        type(w.darknessBox, " 0.75 ");
+        click(w.cancelButton);
+        QVERIFY(!w.isVisible() && app.window->configuration().levelName.empty());
+
+        const int operations = app.files.operations;
+        QCOMPARE(&openPaths(app), &w); // no new load
+        QCOMPARE(app.files.operations, operations);
+        QCOMPARE(texts(w), "Wake|D:\\BF|Level =1|Not A Listed Mod| 0.75 |110");
+
+        // OK sets the main window's pass boxes: one Click for each real change only.
+        QSignalSpy terrain(app.window->passBoxes[0], &ClickCheckBox::Click);
+        QSignalSpy merge(app.window->passBoxes[1], &ClickCheckBox::Click);
+        click(w.okButton);
+        QCOMPARE(terrain.count() * 10 + merge.count(), 1);
+        QCOMPARE(app.window->configuration(),
+                 (Configuration{U"D:\\BF", U"Level =1", U"Not A Listed Mod", 0.75,
+                                {true, true, false}}));
+        QVERIFY(app.window->passEntries[int(Pass::Merge)]->Checked());
+        QVERIFY(!app.window->pathsDialog()->isLoaded());
+        QVERIFY(app.dialogs.boxes.isEmpty());
+    }
+
+    void closeBoxUnloadsAndOkRefusesADarknessThatIsNoNumber() {
+        TestApp app;
+        PathsDialogWindow* w = &openPaths(app);
+        type(w->gamePathBox, "C:\\Game");
+        QVERIFY(w->close());
+        QVERIFY(!app.window->pathsDialog()->isLoaded());
+        QVERIFY(app.window->configuration().gamePath.empty());
+
+        w = &openPaths(app);
+        QCOMPARE(texts(*w), "(Current)||||1.5|000");
+        type(w->gamePathBox, "C:\\Game");
+        type(w->levelBox, "Level");
+        type(w->modBox->lineEdit(), "EoD");
+        type(w->darknessBox, "1,5");
+        click(w->okButton);
+        QCOMPARE(app.dialogs.boxes.last().prompt,
+                 QString("The Shadow Darkness must be a number, such as 1.5."));
+        QCOMPARE(w->focusWidget(), w->darknessBox);
+        QVERIFY(w->isVisible() && app.window->configuration().gamePath.empty());
+    }
+
+    void savedSettingsInTheListAndInTheFile() {
+        TestApp app;
+        app.write("config.ini", kWake + kMidway + kBerlin);
+        app.window->passEntries[int(Pass::Merge)]->trigger();
+        PathsDialogWindow& w = openPaths(app);
+        QCOMPARE(rowsOf(w.savedList), QStringList({"(Current)", "Wake", "Midway", "Berlin"}));
+        chooseRow(w.savedList, 2);
+        QCOMPARE(texts(w), "Midway|E:\\BF|Midway|DesertCombat|2|011");
+        type(w.levelBox, "changed");
+        type(w.darknessBox, "2.50");
+        click(w.saveButton); // replaces: the record and its row move last, shown as written
+        const QByteArray changed =
+            record("Midway", "E:\\BF", "changed", "DesertCombat", "011", "2.50");
+        QCOMPARE(app.bytesOf("config.ini"), kWake + kBerlin + changed);
+        QCOMPARE(rowsOf(w.savedList), QStringList({"(Current)", "Wake", "Berlin", "Midway"}));
+        QCOMPARE(w.savedList->ListIndex(), 3);
+        QCOMPARE(texts(w), "Midway|E:\\BF|changed|DesertCombat|2.5|011");
+        saveAs(w, "café"); // a new name beside a selected record is a second record
+        QVERIFY(app.bytesOf("config.ini")
+                    .endsWith(record("caf\xE9", "E:\\BF", "changed", "DesertCombat", "011", "2.5")));
+
+        chooseRow(w.savedList, 1);
+        click(w.deleteButton); // only the selected record; row 0 shows the main window again
+        QCOMPARE(rowsOf(w.savedList), QStringList({"(Current)", "Berlin", "Midway", "café"}));
+        QCOMPARE(texts(w), "Wake||||1.5|010");
+        QVERIFY(!app.bytesOf("config.ini").contains("Wake"));
+        click(w.deleteButton); // row 0
+        QCOMPARE(app.dialogs.boxes.size(), 1);
+        QCOMPARE(rowsOf(reopenPaths(app).savedList),
+                 QStringList({"(Current)", "Berlin", "Midway", "café"}));
+    }
+
+    // Qt's text boxes hold 32,767 characters unless told otherwise; a save would write a
+    // longer value cut.
+    void aLongValueIsShownAndSavedWhole() {
+        TestApp app;
+        const QByteArray big(100000, 'x');
+        app.write("config.ini", record("Big", big, "l", "m", "000", "1"));
+        PathsDialogWindow& w = openPaths(app);
+        chooseRow(w.savedList, 1);
+        QCOMPARE(w.gamePathBox->text().size(), big.size());
+        click(w.saveButton);
+        QCOMPARE(app.bytesOf("config.ini"), record("Big", big, "l", "m", "000", "1"));
+    }
+
+    // A list that the load could not read is read before a rewrite, or records would go.
+    void aListThatCouldNotBeReadIsReadBeforeARewrite() {
+        TestApp app;
+        app.write("config.ini", kWake + kMidway);
+        app.files.failAt = 1;
+        PathsDialogWindow& w = openPaths(app);
+        QVERIFY(app.dialogs.boxes.at(0).prompt.contains(app.path("config.ini")));
+        QCOMPARE(rowsOf(w.savedList), QStringList{"(Current)"});
+        saveAs(w, "New");
+        QCOMPARE(rowsOf(w.savedList), QStringList({"(Current)", "Wake", "Midway", "New"}));
+        QVERIFY(app.bytesOf("config.ini").startsWith(kWake + kMidway));
+    }
+
+    // Only the length counts: the last 11 characters go, whatever they are.
+    void browseKeepsWhatStandsBeforeTheExeName() {
+        TestApp app;
+        PathsDialogWindow& w = openPaths(app);
+        const std::pair<QString, QString> answers[] = {
+            {"D:\\Games\\BF1942\\bf1942.exe", "D:\\Games\\BF1942"},
+            {"D:\\Games\\BF1942\\launcher.exe", "D:\\Games\\BF1942\\l"},
+            {"\\bf1942.exe", ""},
+            {"a.exe", "kept"}, // nothing to cut
+            {"", "kept"}};     // cancelled
+        for (const auto& [answer, gamePath] : answers) {
+            type(w.gamePathBox, "kept");
+            app.dialogs.fileAnswers.enqueue(answer);
+            click(w.browseButton);
+            QCOMPARE(answer + " -> " + w.gamePathBox->text(), answer + " -> " + gamePath);
+        }
+        const FileDialogRequest asked = app.dialogs.fileRequests.constLast();
+        QCOMPARE(asked.filter + "|" + asked.fileName + "|" + asked.initDir,
+                 "Battlefield 1942|bf1942.exe|bf1942.exe|");
+    }
+};
+
+QTEST_MAIN(PathsDialogTest)
+#include "paths_dialog_qtest.moc"
