@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QStringList>
+#include <optional>
 
 #include "platform/launcher.h"
 
@@ -10,7 +11,7 @@ namespace umbrakit {
 // The program that runs a script, and the arguments that come before the script's path.
 struct BatchProcessor {
     QString program;              // a name looked up on the search path, or a full path
-    QStringList leadingArguments; // on Windows the path after them is quoted for cmd /s /c
+    QStringList leadingArguments;
 };
 
 class SystemLauncher : public Launcher {
@@ -23,7 +24,7 @@ class SystemLauncher : public Launcher {
     LaunchResult startScript(const QString& scriptPath) override;
 
   private:
-    BatchProcessor processor_;
+    std::optional<BatchProcessor> processor_; // none: the system's own
 };
 
 } // namespace umbrakit
