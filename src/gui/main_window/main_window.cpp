@@ -91,7 +91,7 @@ void MainWindow::applyConfiguration(const Configuration& configuration) {
 void MainWindow::openPathsDialog() {
     statusLine->setSimpleText("Configuring Paths...");
     if (!pathsDialog_)
-        pathsDialog_ = std::make_unique<PathsDialog>(*this);
+        pathsDialog_ = std::make_unique<PathsDialog>(*this, services);
     pathsDialog_->show();
     statusLine->setSimpleText("Ready.");
 }

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "core/configuration.h"
+#include "gui/current_configuration.h"
 #include "platform/common_dialog.h"
 #include "platform/services.h"
 
@@ -27,7 +28,7 @@ class PatchGrid;
 class PathsDialog;
 class StatusBar;
 
-class MainWindow : public QMainWindow {
+class MainWindow : public QMainWindow, public CurrentConfiguration {
     Q_OBJECT
   public:
     explicit MainWindow(Services& services);
@@ -36,10 +37,9 @@ class MainWindow : public QMainWindow {
     // Creates the window, loads it and shows it: the start of the program.
     static std::unique_ptr<MainWindow> start(Services& services);
 
-    const Configuration& configuration() const { return configuration_; }
-    // What OK of the paths dialog does: the texts and the darkness are taken over, and each
-    // pass box is set, so that a real change moves the pass and its tick along.
-    void applyConfiguration(const Configuration& configuration);
+    const Configuration& configuration() const override { return configuration_; }
+    // Each pass box is set, so that a real change moves the pass and its tick along.
+    void applyConfiguration(const Configuration& configuration) override;
 
     // Controls; their object names are the classic ones (Combo1, Go_Button, ...).
     QLabel* titleLabel;

@@ -6,7 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "gui/main_window/main_window.h"
+#include "platform/services.h"
 #include "gui/paths_dialog/config_file.h"
 #include "gui/text_field_captions.h"
 #include "platform/combo_list.h"
@@ -14,9 +14,8 @@
 
 namespace umbrakit {
 
-PathsDialog::PathsDialog(MainWindow& mainWindow)
-    : mainWindow_(mainWindow), services_(mainWindow.services),
-      fileDialog_(mainWindow.services.dialogs) {}
+PathsDialog::PathsDialog(CurrentConfiguration& current, Services& services)
+    : current_(current), services_(services), fileDialog_(services.dialogs) {}
 
 PathsDialog::~PathsDialog() {
     delete window_.data();
@@ -66,7 +65,7 @@ void PathsDialog::load() {
     for (const char* mod : {"BF1942", "DesertCombat", "EoD"})
         w.modBox->AddItem(mod);
     entries_ = {};
-    showCurrent(entries_, mainWindow_.configuration());
+    showCurrent(entries_, current_.configuration());
     entries_.settingName = U"(Current)";
     showEntries();
 
@@ -86,7 +85,7 @@ void PathsDialog::applyAndClose() {
             controls().darknessBox->setFocus();
         return;
     }
-    mainWindow_.applyConfiguration(std::get<Configuration>(configuration));
+    current_.applyConfiguration(std::get<Configuration>(configuration));
     unload();
 }
 

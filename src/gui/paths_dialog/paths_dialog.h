@@ -11,17 +11,17 @@
 
 #include "core/saved_name_table.h"
 #include "core/saved_settings.h"
+#include "gui/current_configuration.h"
 #include "gui/paths_dialog/paths_dialog_window.h"
 #include "platform/common_dialog.h"
 
 namespace umbrakit {
 
-class MainWindow;
 struct Services;
 
 class PathsDialog {
   public:
-    explicit PathsDialog(MainWindow& mainWindow);
+    PathsDialog(CurrentConfiguration& current, Services& services);
     ~PathsDialog();
     PathsDialog(const PathsDialog&) = delete;
     PathsDialog& operator=(const PathsDialog&) = delete;
@@ -52,7 +52,7 @@ class PathsDialog {
     void tell(const DialogRefusal& refusal) const;
     PathsDialogWindow& controls() const { return *window_; }
 
-    MainWindow& mainWindow_;
+    CurrentConfiguration& current_;
     Services& services_;
     CommonDialog fileDialog_;
     QPointer<PathsDialogWindow> window_;

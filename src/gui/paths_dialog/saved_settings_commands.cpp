@@ -3,7 +3,7 @@
 // the change, so a failure leaves the file and the list as they were.
 #include "gui/paths_dialog/config_file.h"
 #include "gui/paths_dialog/paths_dialog.h"
-#include "gui/main_window/main_window.h"
+#include "platform/services.h"
 #include "platform/combo_list.h"
 #include "platform/qt_text.h"
 
@@ -19,7 +19,7 @@ void PathsDialog::showSelectedRow() {
     takeEntries();
     const int row = controls().savedList->ListIndex();
     if (row == 0) {
-        showCurrent(entries_, mainWindow_.configuration());
+        showCurrent(entries_, current_.configuration());
     } else if (row > 0) {
         const auto config = ConfigFile(services_).read("The saved Config could not be read.");
         if (!config)
