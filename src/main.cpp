@@ -1,6 +1,8 @@
 #include <QApplication>
+#include <QTimer>
 
 #include "gui/main_window/main_window.h"
+#include "gui/main_window/program_folder_notice.h"
 #include "platform/disk_file_ops.h"
 #include "platform/qt_dialogs.h"
 #include "platform/system_launcher.h"
@@ -17,5 +19,7 @@ int main(int argc, char* argv[]) {
                                     QCoreApplication::exit(0);
                                 }};
     const auto form = umbrakit::Form1::start(services);
+    // Inside the event loop, so that closing the main window behind the notice still ends it.
+    QTimer::singleShot(0, [&services] { umbrakit::tellIfProgramFolderIsReadOnly(services); });
     return app.exec();
 }

@@ -1,4 +1,5 @@
 #include "platform/disk_file_ops.h"
+#include "platform/writable_folder.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -25,6 +26,12 @@ const char* const kReadOnly = "The file is read-only.";
 bool isReadOnlyFile(const QString& path) {
     const QFileInfo info(path);
     return info.isFile() && !(info.permissions() & QFileDevice::WriteOwner);
+}
+
+// Nothing in a folder marked read-only is created, replaced or deleted, by anyone.
+const char* const kReadOnlyFolder = "The folder is read-only.";
+bool isInReadOnlyFolder(const QString& path) {
+    return folderIsMarkedReadOnly(QFileInfo(path).absolutePath());
 }
 
 bool flushToDisk(QFile& file) {
@@ -67,6 +74,8 @@ FileResult DiskFileOps::read(const QString& path, QByteArray& bytes) {
 FileResult DiskFileOps::remove(const QString& path) {
     if (isReadOnlyFile(path))
         return FileResult::failure(kReadOnly);
+    if (isInReadOnlyFolder(path))
+        return FileResult::failure(kReadOnlyFolder);
     QFile file(path);
     if (!file.remove())
         return FileResult::failure(file.errorString());
@@ -74,6 +83,8 @@ FileResult DiskFileOps::remove(const QString& path) {
 }
 
 FileResult DiskFileOps::writeNew(const QString& path, const QByteArray& bytes) {
+    if (isInReadOnlyFolder(path))
+        return FileResult::failure(kReadOnlyFolder);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return FileResult::failure(file.errorString());
@@ -91,6 +102,8 @@ FileResult DiskFileOps::writeNew(const QString& path, const QByteArray& bytes) {
 FileResult DiskFileOps::renameOver(const QString& from, const QString& to) {
     if (isReadOnlyFile(to))
         return FileResult::failure(kReadOnly);
+    if (isInReadOnlyFolder(to))
+        return FileResult::failure(kReadOnlyFolder);
 #ifdef Q_OS_WIN
     // A virus scanner or an indexer may hold the file for a moment: try again a few times.
     const std::wstring source = from.toStdWString();
