@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QTimer>
 
+#include "gui/command_line/command_line.h"
 #include "gui/main_window/main_window.h"
 #include "gui/main_window/program_folder_notice.h"
 #include "platform/disk_file_ops.h"
@@ -8,6 +9,8 @@
 #include "platform/system_launcher.h"
 
 int main(int argc, char* argv[]) {
+    if (const std::optional<int> exitCode = umbrakit::runCommandLine(argc, argv))
+        return *exitCode;
     QApplication app(argc, argv);
     umbrakit::DiskFileOps files;
     umbrakit::QtDialogs dialogs;
