@@ -24,10 +24,15 @@ endif()
 
 if(WIN32)
     # Qt's DLLs, the platform plugin and the compiler's run-time go beside the program, in the
-    # folder that CPack packs.
-    find_program(UMBRAKIT_WINDEPLOYQT windeployqt HINTS "${Qt6_DIR}/../../../bin" REQUIRED)
-    install(CODE "execute_process(COMMAND \"${UMBRAKIT_WINDEPLOYQT}\" --release --no-translations
-        \"\${CMAKE_INSTALL_PREFIX}/umbrakit.exe\" COMMAND_ERROR_IS_FATAL ANY)")
+    # folder that CPack packs. Only packing needs windeployqt; a build without it still works.
+    find_program(UMBRAKIT_WINDEPLOYQT windeployqt HINTS "${Qt6_DIR}/../../../bin")
+    if(UMBRAKIT_WINDEPLOYQT)
+        install(CODE "execute_process(COMMAND \"${UMBRAKIT_WINDEPLOYQT}\"
+            $<IF:$<CONFIG:Debug>,--debug,--release> --no-translations
+            \"\${CMAKE_INSTALL_PREFIX}/umbrakit.exe\" COMMAND_ERROR_IS_FATAL ANY)")
+    else()
+        install(CODE "message(FATAL_ERROR \"windeployqt was not found beside Qt or on PATH\")")
+    endif()
     set(CPACK_GENERATOR ZIP)
 else()
     set(CPACK_GENERATOR TGZ)
