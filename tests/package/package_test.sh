@@ -53,7 +53,9 @@ step() {
     printf '[%5s s] %s\n' "$(elapsed)" "$*"
 }
 
-# until_true <seconds> <command...>: polls the command every tenth of a second.
+# until_true <seconds> <command...>: polls the command every tenth of a second. The command
+# is run anew each time, so a count to wait for is taken inside a function, never as an
+# argument computed once.
 until_true() {
     local deadline=$(($(date +%s%N) + $1 * 1000000000))
     shift
@@ -209,8 +211,22 @@ visible_windows() {
 shown() {
     [ -n "$(visible_windows "$1")" ]
 }
-count_of() {
-    visible_windows "$1" | wc -l
+# named_window_count <test operator> <number> <name pattern>
+named_window_count() {
+    [ "$(visible_windows "$3" | wc -l)" "$1" "$2" ]
+}
+# The program's shown windows, open menus included (they have no title).
+program_window_count() {
+    xdotool search --onlyvisible --class umbrakit 2>/dev/null | wc -l
+}
+more_windows_than() {
+    [ "$(program_window_count)" -gt "$1" ]
+}
+running() {
+    kill -0 "$1" 2>/dev/null
+}
+not() {
+    ! "$@"
 }
 # focus <window>: gives it the keyboard (there is no window manager to do it).
 focus() {
@@ -220,9 +236,9 @@ focus() {
 quit() {
     local menus
     focus "$1"
-    menus=$(xdotool search --onlyvisible --class umbrakit | wc -l)
+    menus=$(program_window_count)
     xdotool key alt+f
-    until_true 10 test "$(xdotool search --onlyvisible --class umbrakit | wc -l)" -gt "$menus" ||
+    until_true 10 more_windows_than "$menus" ||
         fail "Alt+F opened no menu"
     xdotool key x
 }
@@ -272,7 +288,7 @@ step "lmList.dat exported through the main window"
 
 ! shown '^Read-Only Folder$' || fail "the notice of a read-only folder appeared for a writable one"
 quit "$main"
-until_true 10 eval '! kill -0 "$pid" 2>/dev/null' || fail "File, Exit did not end the program"
+until_true 10 not running "$pid" || fail "File, Exit did not end the program"
 left=$(cd "$folder" && ls -A | sort | tr '\n' ' ')
 [ "$left" = "LICENSE README.md config.ini lmList.dat umbrakit umbrakit-256.png umbrakit-32.png umbrakit-48.png umbrakit.desktop " ] ||
     fail "the folder holds other files than the package's, config.ini and lmList.dat: $left"
@@ -298,7 +314,7 @@ until_true 20 shown '^Read-Only Folder$' || fail "no notice of the read-only fol
 until_true 10 shown '^Umbrakit$' || fail "the main window did not appear behind the notice"
 focus "$(visible_windows '^Read-Only Folder$')"
 xdotool key Return
-until_true 10 eval '! shown "^Read-Only Folder$"' || fail "OK did not close the notice"
+until_true 10 not shown '^Read-Only Folder$' || fail "OK did not close the notice"
 step "the read-only folder was named in one notice at start-up"
 
 # A save is refused with its message box (titled like the main window), and nothing changes.
@@ -310,7 +326,7 @@ focus "$(visible_windows '^Set Paths')"
 xdotool key Tab
 xdotool type --delay 20 "Second Level"
 xdotool key Tab space
-until_true 10 test "$(count_of '^Umbrakit$')" -ge 2 ||
+until_true 10 named_window_count -ge 2 '^Umbrakit$' ||
     fail "a save into the read-only folder showed no message"
 cmp -s "$config" "$work/config.before" || fail "config.ini changed in the read-only folder"
 [ ! -e "$folder/config.tmp" ] || fail "config.tmp was left in the read-only folder"
@@ -318,9 +334,9 @@ cmp -s "$config" "$work/config.before" || fail "config.ini changed in the read-o
 box=$(visible_windows '^Umbrakit$' | grep -vx "$main")
 focus "$box"
 xdotool key Return
-until_true 10 test "$(count_of '^Umbrakit$')" -eq 1 || fail "OK did not close the message"
+until_true 10 named_window_count -eq 1 '^Umbrakit$' || fail "OK did not close the message"
 quit "$main"
-until_true 10 eval '! kill -0 "$pid" 2>/dev/null' || fail "File, Exit did not end the program"
+until_true 10 not running "$pid" || fail "File, Exit did not end the program"
 wait "$pid"
 code=$?
 [ "$code" = 0 ] || fail "the program ended with exit code $code"
