@@ -1,8 +1,12 @@
 #!/usr/bin/env python3
 """Draws Umbrakit's icon: a lit terrain patch grid with a shadow, 32 by 32 pixels in the
-16 colours of the standard Windows palette, written as a 766-byte .ico file."""
+16 colours of the standard Windows palette, written as a 766-byte .ico file. The same picture,
+scaled, goes beside it as umbrakit-32.png, umbrakit-48.png and umbrakit-256.png for the
+desktop's menus: usage: make-icon.py <folder>/umbrakit.ico"""
+import os
 import struct
 import sys
+import zlib
 
 PALETTE = [  # the 16 standard colours, as (r, g, b)
     (0, 0, 0), (128, 0, 0), (0, 128, 0), (128, 128, 0), (0, 0, 128), (128, 0, 128),
@@ -43,8 +47,47 @@ def icon_bytes():
     return directory + image
 
 
+PNG_SIZES = (32, 48, 256)
+
+
+def scaled_rgb(size):
+    """The picture at size by size pixels: each pixel the mean colour of the area it covers.
+    Six by six samples a pixel make that exact for 32, 48 and 256, and keep the 8 times
+    enlargement as sharp as the original."""
+    samples = 6
+    step = 32 / size
+    rows = []
+    for y in range(size):
+        row = bytearray()
+        for x in range(size):
+            total = [0, 0, 0]
+            for sy in range(samples):
+                for sx in range(samples):
+                    colour = PALETTE[pixel(int((x + (sx + 0.5) / samples) * step),
+                                           int((y + (sy + 0.5) / samples) * step))]
+                    for i in range(3):
+                        total[i] += colour[i]
+            row += bytes(round(t / samples ** 2) for t in total)
+        rows.append(bytes(row))
+    return rows
+
+
+def png_bytes(size):
+    def chunk(kind, data):
+        return (struct.pack(">I", len(data)) + kind + data +
+                struct.pack(">I", zlib.crc32(kind + data) & 0xFFFFFFFF))
+    header = struct.pack(">IIBBBBB", size, size, 8, 2, 0, 0, 0)  # 8-bit RGB, opaque
+    raw = b"".join(b"\0" + row for row in scaled_rgb(size))  # filter type 0 on every row
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(raw, 9)) +
+            chunk(b"IEND", b""))
+
+
 if __name__ == "__main__":
     data = icon_bytes()
     assert len(data) == 766, len(data)
     with open(sys.argv[1], "wb") as out:
         out.write(data)
+    folder = os.path.dirname(os.path.abspath(sys.argv[1]))
+    for size in PNG_SIZES:
+        with open(os.path.join(folder, f"umbrakit-{size}.png"), "wb") as out:
+            out.write(png_bytes(size))

@@ -5,14 +5,21 @@
 #include <filesystem>
 
 #include "core/durable_files.h"
+#include "platform/writable_folder.h"
 
 namespace umbrakit {
 
 namespace {
 const char* const kReadOnly = "The file is read-only.";
+// Nothing in a folder marked read-only is created, replaced or deleted, by anyone.
+const char* const kReadOnlyFolder = "The folder is read-only.";
 
 std::filesystem::path nativePath(const QString& path) {
     return std::filesystem::path(path.toStdU16String());
+}
+
+bool isInReadOnlyFolder(const QString& path) {
+    return folderIsMarkedReadOnly(QFileInfo(path).absolutePath());
 }
 
 FileResult resultOf(const SystemResult& result) {
@@ -38,6 +45,8 @@ FileResult DiskFileOps::read(const QString& path, QByteArray& bytes) {
 FileResult DiskFileOps::remove(const QString& path) {
     if (isMarkedReadOnly(nativePath(path)))
         return FileResult::failure(kReadOnly);
+    if (isInReadOnlyFolder(path))
+        return FileResult::failure(kReadOnlyFolder);
     QFile file(path);
     if (!file.remove())
         return FileResult::failure(file.errorString());
@@ -45,6 +54,8 @@ FileResult DiskFileOps::remove(const QString& path) {
 }
 
 FileResult DiskFileOps::writeNew(const QString& path, const QByteArray& bytes) {
+    if (isInReadOnlyFolder(path))
+        return FileResult::failure(kReadOnlyFolder);
     return resultOf(writeDurably(nativePath(path), std::string_view(bytes.constData(),
                                                                     std::size_t(bytes.size()))));
 }
@@ -52,6 +63,8 @@ FileResult DiskFileOps::writeNew(const QString& path, const QByteArray& bytes) {
 FileResult DiskFileOps::renameOver(const QString& from, const QString& to) {
     if (isMarkedReadOnly(nativePath(to)))
         return FileResult::failure(kReadOnly);
+    if (isInReadOnlyFolder(to))
+        return FileResult::failure(kReadOnlyFolder);
     return resultOf(umbrakit::renameOver(nativePath(from), nativePath(to)));
 }
 

@@ -9,6 +9,7 @@
 
 #include "platform/disk_file_ops.h"
 #include "platform/qt_dialogs.h"
+#include "platform/writable_folder.h"
 
 using namespace umbrakit;
 
@@ -83,6 +84,28 @@ class SystemBoxesTest : public QObject {
         QVERIFY(!QFile::exists(temp));
         QVERIFY(!disk.remove(target));
         QVERIFY(!replaceWhole(disk, dir.filePath("gone/a.dat"), dir.filePath("gone/a.tmp"), "x"));
+    }
+
+    void aFolderMarkedReadOnlyTakesNoChange() {
+        QTemporaryDir dir;
+        DiskFileOps disk;
+        const QString config = dir.filePath("config.ini");
+        QVERIFY(replaceWhole(disk, config, dir.filePath("config.tmp"), "kept"));
+        QVERIFY(programFolderIsWritable(dir.path()));
+
+        // r-x for everyone: root could still write there, the program does not
+        const auto readAndList = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther |
+                                 QFile::ExeOther;
+        QVERIFY(QFile::setPermissions(dir.path(), readAndList));
+        QVERIFY(!programFolderIsWritable(dir.path()));
+        for (const FileResult& refused :
+             {replaceWhole(disk, dir.filePath("lmList.dat"), dir.filePath("lmList.tmp"), "new"),
+              replaceWhole(disk, config, dir.filePath("config.tmp"), "new"), disk.remove(config)})
+            QCOMPARE(refused.reason, QString("The folder is read-only."));
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{"config.ini"});
+        QVERIFY(QFile::setPermissions(dir.path(), readAndList | QFile::WriteOwner));
+        QByteArray bytes;
+        QVERIFY(disk.read(config, bytes) && bytes == "kept");
     }
 };
 
