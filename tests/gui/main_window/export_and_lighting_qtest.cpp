@@ -18,38 +18,16 @@ using namespace umbrakit;
 
 namespace {
 const QString kRunning = "Running batch lighting... You may exit.";
-const QString kIncomplete = "Error: Incomplete Config. Set Paths or Load Config.";
 const std::u32string kGame = U"D:\\Games\\BF1942";
-const QByteArray kOldScript = "@echo an earlier script\r\n@rem that must stay as it is\r\n";
+const QByteArray kOld = "@echo an earlier file\r\n@rem that must stay as it is\r\n";
 
-void exportTo(TestApp& app, const QString& name) {
-    app.dialogs.fileAnswers.enqueue(app.path(name));
-    QTest::mouseClick(app.window->exportButton, Qt::LeftButton);
+QString outcome(TestApp& app) { // status line, timer, boxes, starts
+    QStringList boxes;
+    for (const AskedBox& box : app.dialogs.boxes)
+        boxes << box.prompt.left(60);
+    return app.status() + (app.window->statusTimer->Enabled() ? " +timer" : "") + " | " +
+           boxes.join(" / ") + " | " + QString::number(app.launcher.started.size());
 }
-
-// The core's script for the usual configuration; passes 1 terrain, 2 merge, 4 object.
-QByteArray scriptFor(int passes) {
-    const Configuration c{kGame, U"MyLevel", U"BF1942", 1.5,
-                          {bool(passes & 1), bool(passes & 2), bool(passes & 4)}};
-    return QByteArray::fromStdString(std::get<std::string>(scriptBytes(c, kWestern)));
-}
-
-const struct Refusal {
-    const char* why;
-    std::u32string game, level, mod;
-    double darkness;
-    QString status;
-    QString named = {}; // what the box names, if any
-} kRefusals[] = {
-    {"no game path", U"", U"MyLevel", U"BF1942", 1.5, kIncomplete},
-    {"no mod name", kGame, U"MyLevel", U"", 1.5, kIncomplete},
-    {"darkness 0", kGame, U"MyLevel", U"BF1942", 0.0, kIncomplete},
-    {"blanks pass", U" ", U" ", U" ", 1.5, kRunning},
-    {"game path unwritable", kGame + U"Ωé", U"MyLevel", U"BF1942", 1.5, "Ready.",
-     "Game Path \"D:\\Games\\BF1942Ωé\" holds the character \"Ω\""},
-    {"mod name unwritable", kGame, U"MyLevel", U"😀é", 1.5, "Ready.",
-     "Mod Name \"😀é\" holds the character \"😀\""},
-};
 } // namespace
 
 class ExportAndLightingTest : public QObject {
@@ -57,132 +35,110 @@ class ExportAndLightingTest : public QObject {
   private slots:
     void exportWritesOneRecordPerTickedPatch() {
         TestApp app;
-        exportTo(app, "none.dat");
-        QVERIFY(QFile::exists(app.path("none.dat")) && app.bytesOf("none.dat").isEmpty());
+        app.window->exportEntry->trigger(); // the dialog answers no name
+        QCOMPARE(outcome(app), "Save Cancled. +timer |  | 0");
+        app.window->statusTimer->setEnabled(false);
+        app.write("lmList.dat", kOld);
+        app.dialogs.fileAnswers << app.path("lmList.dat");
+        QTest::mouseClick(app.window->exportButton, Qt::LeftButton); // not overwritten
+        QCOMPARE(outcome(app), "Preparing to Save... | File Exists, Do you want to overwrite? | 0");
+        QVERIFY(app.dialogs.boxes.last().style == MsgBoxStyle{MsgBoxButtons::YesNo});
+        QCOMPARE(app.bytesOf("lmList.dat"), kOld);
 
         app.window->worldSizeList->setListIndex(3); // "32x32"
         for (int index : {0, 5, 35, 255})
             app.window->patchGrid->patch(index)->setChecked(true);
         app.setPaths(kGame, U"MyLevel", U"BF1942");
-        exportTo(app, "lmList.dat");
+        app.dialogs.fileAnswers << app.path("lmList.dat");
+        app.dialogs.boxAnswers << MsgBoxAnswer::Yes;
+        QTest::mouseClick(app.window->exportButton, Qt::LeftButton);
         QCOMPARE(app.bytesOf("lmList.dat"), QByteArray("\x00\x00\x05\x00\x03\x02\x0F\x0F", 8));
         QCOMPARE(app.status(), QString("Saved!"));
-        QVERIFY(app.window->statusTimer->Enabled());
         // complete beside the old list before it takes its place
         QCOMPARE(app.files.journal.constLast(),
                  "renameOver " + app.path("lmList.dat.tmp") + " " + app.path("lmList.dat"));
         // the dialog is set afresh every time, in the level's textures folder
-        const FileDialogRequest asked = app.dialogs.fileRequests.at(1);
+        const FileDialogRequest asked = app.dialogs.fileRequests.constLast();
         QCOMPARE(asked.filter + "|" + asked.fileName + "|" + asked.initDir,
                  "lmList.dat|lmList.dat|All Files (*.*)|*.*|lmList.dat|"
                  "D:\\Games\\BF1942\\ShadowWork\\bf1942\\levels\\MyLevel\\textures");
     }
 
-    void exportCancelledOrNotOverwritten() {
-        TestApp app;
-        app.window->exportEntry->trigger(); // the dialog answers no name
-        QCOMPARE(app.status(), QString("Save Cancled."));
-        QVERIFY(app.window->statusTimer->Enabled());
-
-        app.window->statusTimer->setEnabled(false);
-        app.write("lmList.dat", "old list");
-        exportTo(app, "lmList.dat"); // answered No
-        QCOMPARE(app.bytesOf("lmList.dat"), QByteArray("old list"));
-        QCOMPARE(app.status(), QString("Preparing to Save..."));
-        QVERIFY(!app.window->statusTimer->Enabled());
-        const AskedBox box = app.dialogs.boxes.constLast();
-        QCOMPARE(box.prompt + "|" + box.title, "File Exists, Do you want to overwrite?|File Exists...");
-        QVERIFY(box.style == MsgBoxStyle{MsgBoxButtons::YesNo});
-    }
-
-    void everyRouteWritesTheScriptAndStartsIt_data() {
-        QTest::addColumn<QString>("route");
-        QTest::addColumn<int>("passes"); // between them the rows tell any two passes apart
-        QTest::newRow("Run Lighting button, all passes") << "button" << 7;
-        QTest::newRow("Go! menu entry, terrain only") << "menu" << 1;
-        QTest::newRow("Ctrl+G, terrain and object") << "key" << 5;
-    }
     void everyRouteWritesTheScriptAndStartsIt() {
-        QFETCH(QString, route);
-        QFETCH(int, passes);
-        TestApp app;
-        app.write("go.bat", kOldScript);
-        app.setPaths(kGame, U"MyLevel", U"BF1942");
-        for (Pass pass : kPasses)
-            if (passes & (1 << int(pass)))
-                clickBox(app.window->passBoxes[int(pass)]);
-
-        if (route == "button") {
-            QTest::mouseClick(app.window->runLightingButton, Qt::LeftButton);
-        } else if (route == "menu") {
-            app.window->goEntry->trigger();
-        } else {
-            app.window->activateWindow();
-            QVERIFY(QTest::qWaitForWindowActive(app.window.get()));
-            QTest::keyClick(app.window.get(), Qt::Key_G, Qt::ControlModifier);
+        const QString routes[] = {"button", "menu", "Ctrl+G"};
+        const int passes[] = {7, 1, 5}; // terrain 1, merge 2, object 4: any two tell apart
+        for (int i = 0; i < 3; ++i) {
+            TestApp app;
+            app.write("go.bat", kOld);
+            app.setPaths(kGame, U"MyLevel", U"BF1942");
+            for (Pass pass : kPasses)
+                if (passes[i] & (1 << int(pass)))
+                    clickBox(app.window->passBoxes[int(pass)]);
+            if (routes[i] == "button") {
+                QTest::mouseClick(app.window->runLightingButton, Qt::LeftButton);
+            } else if (routes[i] == "menu") {
+                app.window->goEntry->trigger();
+            } else {
+                app.window->activateWindow();
+                QVERIFY(QTest::qWaitForWindowActive(app.window.get()));
+                QTest::keyClick(app.window.get(), Qt::Key_G, Qt::ControlModifier);
+            }
+            const auto script = scriptBytes(app.window->configuration(), kWestern);
+            QCOMPARE(app.bytesOf("go.bat").toStdString(), std::get<std::string>(script));
+            QCOMPARE(app.window->configuration().passes.object, bool(passes[i] & 4));
+            QCOMPARE(app.files.journal.constLast(),
+                     "renameOver " + app.path("go.bat.tmp") + " " + app.path("go.bat"));
+            QCOMPARE(app.launcher.started, QStringList{app.path("go.bat")});
+            QCOMPARE(outcome(app), kRunning + " +timer |  | 1");
         }
-        QCOMPARE(app.bytesOf("go.bat"), scriptFor(passes));
-        QCOMPARE(app.files.journal.constLast(),
-                 "renameOver " + app.path("go.bat.tmp") + " " + app.path("go.bat"));
-        QCOMPARE(app.launcher.started, QStringList{app.path("go.bat")});
-        QVERIFY(app.dialogs.boxes.isEmpty());
-        QCOMPARE(app.status(), kRunning);
-        QVERIFY(app.window->statusTimer->Enabled());
     }
 
-    void refusals_data() {
-        QTest::addColumn<int>("row");
-        for (int row = 0; row < int(std::size(kRefusals)); ++row)
-            QTest::newRow(kRefusals[row].why) << row;
-    }
-    void refusals() {
-        QFETCH(int, row);
-        const Refusal& r = kRefusals[row];
-        TestApp app;
-        app.write("go.bat", kOldScript);
-        app.setPaths(r.game, r.level, r.mod, r.darkness);
+    void refusalsLeaveTheOldScript() {
+        const struct {
+            std::u32string game, level, mod;
+            double darkness;
+            QString outcome;
+        } refusals[] = {
+            {U"", U"MyLevel", U"BF1942", 1.5,
+             "Error: Incomplete Config. Set Paths or Load Config. +timer |  | 0"},
+            {kGame, U"MyLevel", U"BF1942", 0.0,
+             "Error: Incomplete Config. Set Paths or Load Config. +timer |  | 0"},
+            {kGame, U"MyLevel", U"😀é", 1.5,
+             "Ready. +timer | The Mod Name \"😀é\" holds the character \"😀\", which go.bat ca | 0"},
+            {U"D:\\Jeux\\Déjà vu", U"MyLevel", U"A&B", 1.5, // answered No
+             "Ready. +timer | go.bat will not reach the engine as written:\n\n- The Game Pat | 0"},
+        };
+        for (const auto& r : refusals) {
+            TestApp app;
+            app.write("go.bat", kOld);
+            app.setPaths(r.game, r.level, r.mod, r.darkness);
+            app.window->goEntry->trigger();
+            QCOMPARE(outcome(app), r.outcome);
+            QCOMPARE(app.bytesOf("go.bat"), kOld);
+        }
+        TestApp app; // blanks are text; Yes to the question writes the code page's bytes
+        app.setPaths(U" ", U"Déjà", U" ");
+        app.dialogs.boxAnswers << MsgBoxAnswer::Yes;
         app.window->goEntry->trigger();
-        const bool runs = r.status == kRunning;
-        QCOMPARE(app.status(), r.status);
-        QVERIFY(app.window->statusTimer->Enabled());
-        QCOMPARE(app.launcher.started.size(), runs ? 1 : 0);
-        QCOMPARE(app.bytesOf("go.bat") == kOldScript, !runs);
-        QCOMPARE(app.dialogs.boxes.size(), r.named.isEmpty() ? 0 : 1);
-        if (!r.named.isEmpty())
-            QVERIFY2(app.dialogs.boxes[0].prompt.contains(r.named), qPrintable(r.named));
-    }
-
-    // The user decides; Yes writes the text as the code page's bytes.
-    void charactersTheBatchProcessorReadsOtherwise() {
-        TestApp app;
-        app.setPaths(U"D:\\Jeux\\Déjà vu", U"MyLevel", U"A&B");
-        app.window->goEntry->trigger(); // answered No
-        QCOMPARE(app.dialogs.boxes.size(), 1);
-        QVERIFY(app.dialogs.boxes[0].prompt.contains("Game Path holds \"é\""));
-        QVERIFY(app.dialogs.boxes[0].prompt.contains("Mod Name holds \"&\""));
-        QVERIFY(!QFile::exists(app.path("go.bat")) && app.launcher.started.isEmpty());
-
-        app.dialogs.boxAnswers.enqueue(MsgBoxAnswer::Yes);
-        app.window->goEntry->trigger();
-        QVERIFY(app.bytesOf("go.bat").startsWith("@cd D:\\Jeux\\D\xE9j\xE0 vu\r\n"));
+        QVERIFY(app.bytesOf("go.bat").startsWith("@cd  \r\n@ \r\n"));
+        QVERIFY(app.dialogs.boxes[0].prompt.contains("Level Name holds \"é\""));
         QCOMPARE(app.status(), kRunning);
     }
 
     void whatTheLauncherAnswers() {
         const std::pair<LaunchResult::Outcome, QString> answers[] = {
-            {LaunchResult::NoBatchProcessor, "Wine"}, {LaunchResult::Failed, "Permission denied"}};
-        for (const auto& [outcome, told] : answers) {
+            {LaunchResult::NoBatchProcessor, "Install Wine"},
+            {LaunchResult::Failed, "Permission denied"}};
+        for (const auto& [answer, told] : answers) {
             TestApp app;
-            app.setPaths(kGame, U"MyLevel", U"BF1942"); // and no pass
-            app.launcher.answer = {outcome, "Permission denied"};
+            app.setPaths(kGame, U"MyLevel", U"BF1942");
+            app.launcher.answer = {answer, "Permission denied"};
             app.window->goEntry->trigger();
-            QCOMPARE(app.bytesOf("go.bat"), scriptFor(0));
-            QCOMPARE(app.dialogs.boxes.size(), 1);
-            const QString prompt = app.dialogs.boxes[0].prompt;
+            QVERIFY(app.bytesOf("go.bat").startsWith("@cd D:\\Games\\BF1942\r\n"));
+            const QString prompt = app.dialogs.boxes.value(0).prompt;
             QVERIFY(prompt.contains(QDir::toNativeSeparators(app.path("go.bat"))));
             QVERIFY2(prompt.contains(told), qPrintable(prompt));
-            QCOMPARE(app.status(), QString("Ready."));
-            QVERIFY(app.window->statusTimer->Enabled());
+            QVERIFY(outcome(app).startsWith("Ready. +timer"));
         }
     }
 };

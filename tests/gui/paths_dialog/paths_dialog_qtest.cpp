@@ -155,18 +155,14 @@ class PathsDialogTest : public QObject {
     void browseKeepsWhatStandsBeforeTheExeName() {
         TestApp app;
         PathsDialogWindow& w = openPaths(app);
-        const std::pair<QString, QString> answers[] = {
-            {"D:\\Games\\BF1942\\bf1942.exe", "D:\\Games\\BF1942"},
-            {"D:\\Games\\BF1942\\launcher.exe", "D:\\Games\\BF1942\\l"},
-            {"\\bf1942.exe", ""},
-            {"a.exe", "kept"}, // nothing to cut
-            {"", "kept"}};     // cancelled
-        for (const auto& [answer, gamePath] : answers) {
+        QStringList shown;
+        for (const char* answer : {"D:\\Games\\BF1942\\launcher.exe", "\\bf1942.exe", "a.exe", ""}) {
             type(w.gamePathBox, "kept");
-            app.dialogs.fileAnswers.enqueue(answer);
+            app.dialogs.fileAnswers << answer;
             click(w.browseButton);
-            QCOMPARE(answer + " -> " + w.gamePathBox->text(), answer + " -> " + gamePath);
+            shown << w.gamePathBox->text();
         }
+        QCOMPARE(shown, QStringList({"D:\\Games\\BF1942\\l", "", "kept", "kept"}));
         const FileDialogRequest asked = app.dialogs.fileRequests.constLast();
         QCOMPARE(asked.filter + "|" + asked.fileName + "|" + asked.initDir,
                  "Battlefield 1942|bf1942.exe|bf1942.exe|");

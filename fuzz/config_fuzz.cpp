@@ -1,0 +1,137 @@
+// Feeds any bytes to the program as config.ini, the way a hand-edited, cut-off or damaged file
+// reaches it (lines without "=", CR without LF, NUL bytes, very long lines, names repeated),
+// and checks what must hold whatever the file holds: what is listed, what a row loads, what a
+// Save and a Delete keep, and that a record the program writes loads back as written.
+#include "core/config_rewrite.h"
+#include "core/config_walk.h"
+#include "core/saved_settings.h"
+#include "core/text_lines.h"
+#include "fuzz_check.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <set>
+
+using namespace umbrakit;
+using umbrakit::fuzz::require;
+
+namespace {
+
+// Loading a name costs a pass over the file, so a file full of heads is sampled.
+constexpr std::size_t kNamesLoaded = 32;
+
+void checkLoad(const std::vector<std::string>& lines, const std::string& name) {
+    const RecordValues loaded = findRecordValues(lines, name);
+    const auto head = std::ranges::find(lines, headFor(name));
+    require(loaded.found == (head != lines.end()), "found exactly when the exact head is there");
+    // Only the seven lines behind the first exact head supply values, each to its first key.
+    RecordValues expected{loaded.found, {}};
+    if (loaded.found)
+        for (auto line = head + 1; line != lines.end() && line - head <= kValueLinesPerRecord; ++line)
+            if (const std::optional<RecordKey> key = keyOfLine(*line))
+                expected.values[std::size_t(*key)] = valueOfLine(*line);
+    require(loaded == expected, "a row loads the values of the lines behind its first head");
+}
+
+// A record made of the file's own first lines, if the format can hold it: a name of one line
+// that a save takes, and values that hold no LF and no key word of an earlier key.
+std::optional<SavedRecord> recordFrom(const std::vector<std::string>& lines) {
+    if (lines.size() < 5 || lines[0].empty() || lines[0] == kCurrentRow ||
+        lines[0].find('\r') != std::string::npos)
+        return std::nullopt;
+    SavedRecord r{lines[0], lines[1], lines[2], lines[3], {true, false, true}, lines[4]};
+    const std::string* values[] = {&r.gamePath, &r.levelName, &r.modName, nullptr, nullptr,
+                                   nullptr, &r.shadowDarknessText};
+    for (std::size_t k = 0; k < kKeyWords.size(); ++k)
+        for (std::size_t earlier = 0; values[k] && earlier < k; ++earlier)
+            if (values[k]->find(kKeyWords[earlier]) != std::string::npos)
+                return std::nullopt;
+    return r;
+}
+
+void checkSave(std::string_view bytes, const SavedNameTable& table,
+               const std::vector<std::string>& names, const SavedRecord& record) {
+    const auto plan = planSave(table, record, bytes);
+    const auto* rewrite = std::get_if<Rewrite>(&plan);
+    require(rewrite || !table.hasRoomFor(record.name), "a save is refused only for want of room");
+    // Loading takes the first line equal to the head, even one inside another record.
+    if (!rewrite || std::ranges::find(names, record.name) != names.end() ||
+        bytes.find(headFor(record.name)) != std::string_view::npos)
+        return;
+    std::vector<std::string> withSaved = names;
+    withSaved.push_back(record.name);
+    const std::vector<std::string> after = splitLines(rewrite->configBytes);
+    require(readSavedNames(after) == withSaved, "a save adds its name last and loses none");
+    const RecordValues loaded = findRecordValues(after, record.name);
+    const std::string written[] = {record.gamePath, record.levelName, record.modName, "True",
+                                   "False", "True", record.shadowDarknessText};
+    for (std::size_t k = 0; k < kKeyWords.size(); ++k)
+        require(loaded.values[k] == written[k], "a saved record loads back as written");
+}
+
+// A delete takes the selected row and the last other row of that name off the list. The
+// records of that name go once no row shows it, unless the list had no room for one.
+void checkDelete(std::string_view bytes, const SavedNameTable& table,
+                 const std::vector<std::string>& names) {
+    const auto plan = planDelete(table, 1, bytes);
+    const auto* rewrite = std::get_if<Rewrite>(&plan);
+    if (!rewrite)
+        return;
+    const std::string gone = table.rows()[1];
+    const auto rowsOfGone = [&](const SavedNameTable& t) { return std::ranges::count(t.rows(), gone); };
+    require(rowsOfGone(rewrite->names) == std::max<std::ptrdiff_t>(0, rowsOfGone(table) - 2),
+            "a delete takes two rows of the name at most");
+    const auto others = [&](std::vector<std::string> list) {
+        std::erase(list, gone);
+        return list;
+    };
+    const std::vector<std::string> after = readSavedNames(splitLines(rewrite->configBytes));
+    require(others(after) == others(names), "a delete keeps every other name");
+    const bool beyondRoom =
+        names.size() > std::size_t(kSavedNameCapacity) &&
+        std::find(names.begin() + kSavedNameCapacity, names.end(), gone) != names.end();
+    require(rowsOfGone(rewrite->names) > 0 || beyondRoom ||
+                std::ranges::find(after, gone) == after.end(),
+            "the records of a name no row shows go");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    const std::vector<std::string> lines = splitLines(bytes);
+    require(splitLines(joinLines(lines)) == lines, "lines survive a write and a read");
+
+    const std::vector<std::string> names = readSavedNames(lines);
+    const auto heads = std::ranges::count_if(lines, [](auto& line) { return isRecordHead(line); });
+    require(std::size_t(heads) >= names.size(), "no more names than head lines");
+    // A record spans at most eight lines, so every head line lies in one of the records found.
+    require(std::size_t(heads) <= names.size() * (1 + kValueLinesPerRecord),
+            "no head line left unwalked");
+    const SavedNameTable table{bytes};
+    std::vector<std::string> listed{std::string(kCurrentRow)};
+    for (std::size_t i = 0; i < names.size() && i < std::size_t(kSavedNameCapacity); ++i)
+        if (!names[i].empty())
+            listed.push_back(names[i]);
+    require(table.rows() == listed, "the list shows the first 30 names that are not empty");
+
+    std::set<std::string> loaded;
+    for (std::size_t i = 0; i < names.size() && loaded.size() < kNamesLoaded; ++i)
+        if (loaded.insert(names[i]).second)
+            checkLoad(lines, names[i]);
+    if (!lines.empty())
+        checkLoad(lines, lines.back()); // a name the file need not hold as a head
+
+    const std::string kept = rewriteConfig(bytes, table, std::nullopt);
+    const std::vector<std::string> keptLines = splitLines(kept);
+    require(readSavedNames(keptLines) == names, "a rewrite keeps every name of the file");
+    require(keptLines.size() == names.size() * (1 + kValueLinesPerRecord),
+            "a rewrite writes whole records only");
+    require(rewriteConfig(kept, SavedNameTable(kept), std::nullopt) == kept,
+            "a rewritten file rewrites to itself");
+
+    if (const std::optional<SavedRecord> record = recordFrom(lines))
+        checkSave(bytes, table, names, *record);
+    checkDelete(bytes, table, names);
+    return 0;
+}
