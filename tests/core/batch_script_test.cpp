@@ -90,13 +90,18 @@ TEST_CASE("characters the batch processor would read otherwise") {
     Configuration c = example;
     c.modName = U"Desert Combat"; // a blank is the user's own choice: two words
     CHECK(scriptHazards(c).empty());
-    c.levelName = U"Forêt";
+    c.levelName = U"For\u0080t"; // beyond ASCII: the console's code page reads another letter
     c.modName = U"A&B";
-    CHECK(scriptHazards(c) == std::vector<ScriptHazard>{{TextField::LevelName, U'ê'},
+    CHECK(scriptHazards(c) == std::vector<ScriptHazard>{{TextField::LevelName, U'\u0080'},
                                                         {TextField::ModName, U'&'}});
-    // "&" is harmless inside the quoted paths, "%" and a quote are not
-    c = {U"D:\\R&D\\BF1942", U"50%", U"BF1942", 1.5, {}};
+    c.levelName = U"MyLevel";
+    for (char32_t own : std::u32string_view(U"%\"^&|<>")) {
+        c.modName = std::u32string(U"Mod") + own; // unquoted: all of them are cmd's own
+        CHECK(scriptHazards(c) == std::vector<ScriptHazard>{{TextField::ModName, own}});
+    }
+    // Inside the quoted paths only "%" and a quote are
+    c = {U"D:\\R&D^<|>\\BF1942", U"50%", U"BF1942", 1.5, {}};
     CHECK(scriptHazards(c) == std::vector<ScriptHazard>{{TextField::LevelName, U'%'}});
-    c.levelName = U"a\"b";
-    CHECK(scriptHazards(c) == std::vector<ScriptHazard>{{TextField::LevelName, U'"'}});
+    c.gamePath = U"a\"b";
+    CHECK(scriptHazards(c).front() == ScriptHazard{TextField::GamePath, U'"'});
 }
