@@ -35,8 +35,11 @@ QString expect(bool holds, const char* otherwise) {
 
 // A configuration that runs all three passes.
 void completeConfiguration(MainWindow& form) {
-    form.applyConfiguration({U"C:\\Program Files\\EA GAMES\\Battlefield 1942", U"Berlin",
-                             U"BF1942", 1.5, {true, true, true}});
+    form.applyConfiguration({U"C:\\Program Files\\EA GAMES\\Battlefield 1942",
+                             U"Berlin",
+                             U"BF1942",
+                             1.5,
+                             {true, true, true}});
 }
 } // namespace
 

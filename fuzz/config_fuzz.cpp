@@ -27,7 +27,8 @@ void checkLoad(const std::vector<std::string>& lines, const std::string& name) {
     // Only the seven lines behind the first exact head supply values, each to its first key.
     RecordValues expected{loaded.found, {}};
     if (loaded.found)
-        for (auto line = head + 1; line != lines.end() && line - head <= kValueLinesPerRecord; ++line)
+        for (auto line = head + 1; line != lines.end() && line - head <= kValueLinesPerRecord;
+             ++line)
             if (const std::optional<RecordKey> key = keyOfLine(*line))
                 expected.values[std::size_t(*key)] = valueOfLine(*line);
     require(loaded == expected, "a row loads the values of the lines behind its first head");
@@ -40,8 +41,8 @@ std::optional<SavedRecord> recordFrom(const std::vector<std::string>& lines) {
         lines[0].find('\r') != std::string::npos)
         return std::nullopt;
     SavedRecord r{lines[0], lines[1], lines[2], lines[3], {true, false, true}, lines[4]};
-    const std::string* values[] = {&r.gamePath, &r.levelName, &r.modName, nullptr, nullptr,
-                                   nullptr, &r.shadowDarknessText};
+    const std::string* values[] = {&r.gamePath, &r.levelName, &r.modName,           nullptr,
+                                   nullptr,     nullptr,      &r.shadowDarknessText};
     for (std::size_t k = 0; k < kKeyWords.size(); ++k)
         for (std::size_t earlier = 0; values[k] && earlier < k; ++earlier)
             if (values[k]->find(kKeyWords[earlier]) != std::string::npos)
@@ -63,8 +64,9 @@ void checkSave(std::string_view bytes, const SavedNameTable& table,
     const std::vector<std::string> after = splitLines(rewrite->configBytes);
     require(readSavedNames(after) == withSaved, "a save adds its name last and loses none");
     const RecordValues loaded = findRecordValues(after, record.name);
-    const std::string written[] = {record.gamePath, record.levelName, record.modName, "True",
-                                   "False", "True", record.shadowDarknessText};
+    const std::string written[] = {
+        record.gamePath, record.levelName, record.modName,           "True",
+        "False",         "True",           record.shadowDarknessText};
     for (std::size_t k = 0; k < kKeyWords.size(); ++k)
         require(loaded.values[k] == written[k], "a saved record loads back as written");
 }
@@ -78,7 +80,9 @@ void checkDelete(std::string_view bytes, const SavedNameTable& table,
     if (!rewrite)
         return;
     const std::string gone = table.rows()[1];
-    const auto rowsOfGone = [&](const SavedNameTable& t) { return std::ranges::count(t.rows(), gone); };
+    const auto rowsOfGone = [&](const SavedNameTable& t) {
+        return std::ranges::count(t.rows(), gone);
+    };
     require(rowsOfGone(rewrite->names) == std::max<std::ptrdiff_t>(0, rowsOfGone(table) - 2),
             "a delete takes two rows of the name at most");
     const auto others = [&](std::vector<std::string> list) {

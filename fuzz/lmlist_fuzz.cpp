@@ -1,7 +1,7 @@
 // Encodes lmList.dat from any check box values and checks that the records are exactly the
 // patches whose value is 1, each once, column then row, in ascending patch index.
-#include "fuzz_check.h"
 #include "core/lmlist_format.h"
+#include "fuzz_check.h"
 
 #include <fuzzer/FuzzedDataProvider.h>
 

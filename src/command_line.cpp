@@ -28,8 +28,8 @@ void print(std::FILE* stream, const QString& line) {
 // start such as "umbrakit -style fusion" works as it always did.
 void acceptToolkitOptions(QCommandLineParser& parser) {
     for (const char* name : {"platform", "platformpluginpath", "platformtheme", "plugin",
-                             "qwindowgeometry", "qwindowicon", "qwindowtitle", "session",
-                             "display", "geometry", "style", "stylesheet", "qmljsdebugger"}) {
+                             "qwindowgeometry", "qwindowicon", "qwindowtitle", "session", "display",
+                             "geometry", "style", "stylesheet", "qmljsdebugger"}) {
         QCommandLineOption option(name, QString(), "value");
         option.setFlags(QCommandLineOption::HiddenFromHelp);
         parser.addOption(option);
@@ -117,7 +117,8 @@ std::optional<int> runCommandLine(int& argc, char** argv) {
     if (parser.isSet(remove)) {
         const DesktopEntryChange change = removeDesktopEntry(files, userDataFolder());
         if (change.paths.isEmpty() && change.failedPath.isEmpty())
-            print(stdout, "No menu entry of Umbrakit in " + userDataFolder() + "; nothing removed.");
+            print(stdout,
+                  "No menu entry of Umbrakit in " + userDataFolder() + "; nothing removed.");
         return reportChange(change, "Removed");
     }
     return std::nullopt;

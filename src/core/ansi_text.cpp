@@ -69,8 +69,7 @@ bool reportsUsedDefault(CodePage codePage) {
 std::wstring wideOf(std::string_view bytes, CodePage codePage) {
     if (bytes.empty())
         return {};
-    const int size =
-        MultiByteToWideChar(codePage, 0, bytes.data(), int(bytes.size()), nullptr, 0);
+    const int size = MultiByteToWideChar(codePage, 0, bytes.data(), int(bytes.size()), nullptr, 0);
     std::wstring wide(std::size_t(size > 0 ? size : 0), L'\0');
     if (size > 0)
         MultiByteToWideChar(codePage, 0, bytes.data(), int(bytes.size()), wide.data(), size);
@@ -174,8 +173,8 @@ std::optional<std::string> toAnsi(std::u32string_view text, CodePage codePage) {
     const DWORD flags = conversionFlags(codePage);
     BOOL usedDefault = FALSE;
     BOOL* const usedDefaultAnswer = reportsUsedDefault(codePage) ? &usedDefault : nullptr;
-    const int size = WideCharToMultiByte(codePage, flags, wide->data(), int(wide->size()),
-                                         nullptr, 0, nullptr, usedDefaultAnswer);
+    const int size = WideCharToMultiByte(codePage, flags, wide->data(), int(wide->size()), nullptr,
+                                         0, nullptr, usedDefaultAnswer);
     if (size <= 0)
         return std::nullopt;
     std::string bytes(std::size_t(size), '\0');

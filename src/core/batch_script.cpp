@@ -41,8 +41,7 @@ std::u32string composeScript(const Configuration& configuration) {
     return script;
 }
 
-std::variant<std::string, UnwritableText> scriptBytes(const Configuration& c,
-                                                      CodePage codePage) {
+std::variant<std::string, UnwritableText> scriptBytes(const Configuration& c, CodePage codePage) {
     const std::pair<TextField, const std::u32string&> fields[] = {
         {TextField::GamePath, c.gamePath},
         {TextField::LevelName, c.levelName},

@@ -41,8 +41,7 @@ void SavedNameTable::append(std::string name) {
     rows_.push_back(std::move(name));
 }
 
-bool SavedNameTable::keeps(std::string_view name,
-                           std::optional<std::string_view> savedName) const {
+bool SavedNameTable::keeps(std::string_view name, std::optional<std::string_view> savedName) const {
     if (find(name) != -1)
         return true;
     return std::ranges::find(beyondTable_, name) != beyondTable_.end() && savedName != name;

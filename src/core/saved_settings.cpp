@@ -98,13 +98,12 @@ std::variant<SavedRecord, DialogRefusal> recordToSave(const DialogEntries& e, Co
         if (const std::optional<DialogRefusal> problem = problemOf(field, text, codePage))
             return *problem;
     const auto ansi = [codePage](const std::u32string& text) { return *toAnsi(text, codePage); };
-    return SavedRecord{ansi(e.settingName), ansi(e.gamePath),  ansi(e.levelName),
-                       ansi(e.modName),     e.passes,          ansi(e.shadowDarkness)};
+    return SavedRecord{ansi(e.settingName), ansi(e.gamePath), ansi(e.levelName),
+                       ansi(e.modName),     e.passes,         ansi(e.shadowDarkness)};
 }
 
-std::variant<Rewrite, DialogRefusal> planSave(const SavedNameTable& names,
-                                              const SavedRecord& record,
-                                              std::string_view configBytes) {
+std::variant<Rewrite, DialogRefusal>
+planSave(const SavedNameTable& names, const SavedRecord& record, std::string_view configBytes) {
     if (!names.hasRoomFor(record.name))
         return DialogRefusal{DialogRefusal::NoRoom};
     SavedNameTable after = withoutName(names, record.name);

@@ -63,9 +63,8 @@ struct Rewrite {
 
 // Save: the name leaves the list, the records still listed are kept and the new one goes last,
 // and its name comes back as the last row, selected.
-std::variant<Rewrite, DialogRefusal> planSave(const SavedNameTable& names,
-                                              const SavedRecord& record,
-                                              std::string_view configBytes);
+std::variant<Rewrite, DialogRefusal>
+planSave(const SavedNameTable& names, const SavedRecord& record, std::string_view configBytes);
 
 // Delete of the selected row: its name leaves the list, and with it its record.
 std::variant<Rewrite, DialogRefusal> planDelete(const SavedNameTable& names, int selectedRow,

@@ -6,8 +6,12 @@ namespace umbrakit {
 constexpr int kPatchCount = 256;
 constexpr int kGridSide = 16;
 
-inline int patchColumn(int patch) { return patch % kGridSide; }
-inline int patchRow(int patch) { return patch / kGridSide; }
+inline int patchColumn(int patch) {
+    return patch % kGridSide;
+}
+inline int patchRow(int patch) {
+    return patch / kGridSide;
+}
 
 struct WorldSize {
     int columns;    // patches along a side

@@ -9,11 +9,16 @@ namespace umbrakit {
 
 inline QString captionOf(TextField field) {
     switch (field) {
-    case TextField::SettingName: return "Setting Name";
-    case TextField::GamePath: return "Game Path";
-    case TextField::LevelName: return "Level Name";
-    case TextField::ModName: return "Mod Name";
-    case TextField::ShadowDarkness: return "Shadow Darkness";
+    case TextField::SettingName:
+        return "Setting Name";
+    case TextField::GamePath:
+        return "Game Path";
+    case TextField::LevelName:
+        return "Level Name";
+    case TextField::ModName:
+        return "Mod Name";
+    case TextField::ShadowDarkness:
+        return "Shadow Darkness";
     }
     return QString();
 }

@@ -20,7 +20,7 @@ struct DesktopEntryContent {
 };
 
 struct DesktopEntryChange {
-    QStringList paths; // the files written or removed, in order
+    QStringList paths;  // the files written or removed, in order
     QString failedPath; // empty when every file was done
     QString reason;
 };

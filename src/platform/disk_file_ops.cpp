@@ -56,8 +56,8 @@ FileResult DiskFileOps::remove(const QString& path) {
 FileResult DiskFileOps::writeNew(const QString& path, const QByteArray& bytes) {
     if (isInReadOnlyFolder(path))
         return FileResult::failure(kReadOnlyFolder);
-    return resultOf(writeDurably(nativePath(path), std::string_view(bytes.constData(),
-                                                                    std::size_t(bytes.size()))));
+    return resultOf(writeDurably(nativePath(path),
+                                 std::string_view(bytes.constData(), std::size_t(bytes.size()))));
 }
 
 FileResult DiskFileOps::renameOver(const QString& from, const QString& to) {

@@ -2,8 +2,7 @@
 
 namespace umbrakit {
 
-FormTimer::FormTimer(int intervalMs, QObject* parent)
-    : QObject(parent), timer_(new QTimer(this)) {
+FormTimer::FormTimer(int intervalMs, QObject* parent) : QObject(parent), timer_(new QTimer(this)) {
     timer_->setInterval(intervalMs);
     timer_->setTimerType(Qt::CoarseTimer);
     timer_->setObjectName("countdown");

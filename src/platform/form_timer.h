@@ -9,7 +9,7 @@ namespace umbrakit {
 
 class FormTimer : public QObject {
     Q_OBJECT
-public:
+  public:
     FormTimer(int intervalMs, QObject* parent = nullptr);
 
     bool Enabled() const { return timer_->isActive(); }
@@ -18,10 +18,10 @@ public:
     void setInterval(int intervalMs) { timer_->setInterval(intervalMs); }
     int remainingMs() const { return timer_->remainingTime(); }
 
-signals:
+  signals:
     void Timer();
 
-private:
+  private:
     QTimer* timer_;
 };
 

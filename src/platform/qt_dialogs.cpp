@@ -11,10 +11,14 @@ const char* const kDefaultTitle = "Umbrakit";
 
 QMessageBox::Icon iconOf(MsgBoxIcon icon) {
     switch (icon) {
-    case MsgBoxIcon::Critical: return QMessageBox::Critical;
-    case MsgBoxIcon::Exclamation: return QMessageBox::Warning;
-    case MsgBoxIcon::Information: return QMessageBox::Information;
-    case MsgBoxIcon::None: break;
+    case MsgBoxIcon::Critical:
+        return QMessageBox::Critical;
+    case MsgBoxIcon::Exclamation:
+        return QMessageBox::Warning;
+    case MsgBoxIcon::Information:
+        return QMessageBox::Information;
+    case MsgBoxIcon::None:
+        break;
     }
     return QMessageBox::NoIcon;
 }

@@ -16,8 +16,8 @@ struct Services {
     FileOps& files;
     Dialogs& dialogs;
     Launcher& launcher;
-    std::function<void()> end;              // ends the program at once
-    CodePage codePage = systemCodePage();   // of go.bat and config.ini
+    std::function<void()> end;            // ends the program at once
+    CodePage codePage = systemCodePage(); // of go.bat and config.ini
 
     // A file of the program's own folder, such as "go.bat".
     QString appFile(const QString& name) const { return appPath + '/' + name; }

@@ -10,7 +10,7 @@ namespace umbrakit {
 
 // The program that runs a script, and the arguments that come before the script's path.
 struct BatchProcessor {
-    QString program;              // a name looked up on the search path, or a full path
+    QString program; // a name looked up on the search path, or a full path
     QStringList leadingArguments;
 };
 

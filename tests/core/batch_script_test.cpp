@@ -47,10 +47,11 @@ TEST_CASE("go.bat") {
     }
     SUBCASE("texts go in as they are") {
         c = {U"C:\\BF\\", U"MyLevel", U"Desert Combat", 2.0, {false, true, false}};
-        CHECK(composeScriptLines(c) ==
-              Lines{U"@cd C:\\BF\\", U"@C:",
-                    UR"("C:\BF\\BF1942.exe" +game Desert Combat +workingFolder "C:\BF\\ShadowWork\")"
-                    UR"( +mergeTerrainShadows "bf1942\levels\MyLevel\ 2 0.4")"});
+        CHECK(
+            composeScriptLines(c) ==
+            Lines{U"@cd C:\\BF\\", U"@C:",
+                  UR"("C:\BF\\BF1942.exe" +game Desert Combat +workingFolder "C:\BF\\ShadowWork\")"
+                  UR"( +mergeTerrainShadows "bf1942\levels\MyLevel\ 2 0.4")"});
         c.gamePath = U"X";
         CHECK(composeScriptLines(c)[1] == U"@X");
         c.gamePath = U"";
@@ -79,7 +80,8 @@ TEST_CASE("completeness for a run") {
         c.shadowDarkness = d;
         CHECK_FALSE(isCompleteForRun(c));
     }
-    for (auto text : {&Configuration::gamePath, &Configuration::levelName, &Configuration::modName}) {
+    for (auto text :
+         {&Configuration::gamePath, &Configuration::levelName, &Configuration::modName}) {
         Configuration c = blanks;
         c.*text = U"";
         CHECK_FALSE(isCompleteForRun(c));
@@ -92,8 +94,8 @@ TEST_CASE("characters the batch processor would read otherwise") {
     CHECK(scriptHazards(c).empty());
     c.levelName = U"For\u0080t"; // beyond ASCII: the console's code page reads another letter
     c.modName = U"A&B";
-    CHECK(scriptHazards(c) == std::vector<ScriptHazard>{{TextField::LevelName, U'\u0080'},
-                                                        {TextField::ModName, U'&'}});
+    CHECK(scriptHazards(c) ==
+          std::vector<ScriptHazard>{{TextField::LevelName, U'\u0080'}, {TextField::ModName, U'&'}});
     c.levelName = U"MyLevel";
     for (char32_t own : std::u32string_view(U"%\"^&|<>")) {
         c.modName = std::u32string(U"Mod") + own; // unquoted: all of them are cmd's own

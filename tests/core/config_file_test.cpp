@@ -54,8 +54,8 @@ TEST_CASE("lines, heads and values") {
 }
 
 TEST_CASE("awkward names and values survive the trip through the file") {
-    const std::vector<std::string> names{"a=b", "x]y", " sp ace ", "(Current)", "(current)",
-                                         "c\rr"};
+    const std::vector<std::string> names{"a=b",       "x]y",       " sp ace ",
+                                         "(Current)", "(current)", "c\rr"};
     std::vector<SavedRecord> records;
     for (const std::string& n : names)
         records.push_back(rec(n, "=lvl=" + n));

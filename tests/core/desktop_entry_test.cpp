@@ -10,8 +10,7 @@ TEST_CASE("the Exec value reads back as the one program path") {
           "\"/home/ann/BF 1942 tools/umbrakit\"");
     // Inside the quotes '"', '`', '$' and '\' are escaped, and then every backslash once more
     // as a string value; four backslashes stand for one.
-    CHECK(desktopExecValue("/a \"b\"/$HOME/`x`/c\\d") ==
-          R"("/a \\"b\\"/\\$HOME/\\`x\\`/c\\\\d")");
+    CHECK(desktopExecValue("/a \"b\"/$HOME/`x`/c\\d") == R"("/a \\"b\\"/\\$HOME/\\`x\\`/c\\\\d")");
     CHECK(desktopExecValue("/tools/100%/umbrakit") == "/tools/100%%/umbrakit");
     CHECK(desktopExecValue("/a;b/it's/umbrakit") == "\"/a;b/it's/umbrakit\"");
     CHECK(desktopExecValue("/line\nbreak/tab\there") == "\"/line\\nbreak/tab\\there\"");

@@ -34,17 +34,19 @@ std::vector<std::pair<std::string, std::string>> hostileFiles() {
     std::vector<std::pair<std::string, std::string>> files;
     for (std::size_t size = 0; size <= two.size(); ++size)
         files.emplace_back("cut at byte " + std::to_string(size), two.substr(0, size));
-    files.insert(files.end(),
-                 {{"3 value lines", "[Save=Short]\r\ngamePath=a\r\nlevelName=b\r\nmodName=c\r\n" + two},
-                  {"40 records", forty},
-                  {"no number, no Boolean",
-                   "[Save=x]\r\nterrainBoolean=Maybe\r\nmergeBoolean=\r\nshadowDarkness=1,5\r\n\r\n"
-                   "\r\n\r\n\r\n" + two},
-                  {"bytes 0x80 to 0xFF", record(high, high, high) + two},
-                  {"NUL bytes", record("a" + nul + "b", nul, "1" + nul) + two},
-                  {"CR without LF", record("C\rR", "\rg\r") + two},
-                  {"CR line ends only", crOnly + two},
-                  {"100 kB lines", record(big, big, big) + big + "\r\n" + two}});
+    files.insert(
+        files.end(),
+        {{"3 value lines", "[Save=Short]\r\ngamePath=a\r\nlevelName=b\r\nmodName=c\r\n" + two},
+         {"40 records", forty},
+         {"no number, no Boolean",
+          "[Save=x]\r\nterrainBoolean=Maybe\r\nmergeBoolean=\r\nshadowDarkness=1,5\r\n\r\n"
+          "\r\n\r\n\r\n" +
+              two},
+         {"bytes 0x80 to 0xFF", record(high, high, high) + two},
+         {"NUL bytes", record("a" + nul + "b", nul, "1" + nul) + two},
+         {"CR without LF", record("C\rR", "\rg\r") + two},
+         {"CR line ends only", crOnly + two},
+         {"100 kB lines", record(big, big, big) + big + "\r\n" + two}});
     return files;
 }
 

@@ -42,7 +42,7 @@ TEST_CASE("the saved name table") {
     CHECK(full.rows().size() == 31);
     CHECK(full.find("N30") == 30); // the last row is searched like any other
     CHECK(full.find("(Current)") == 0);
-    CHECK(full.find("n1") == -1);  // exactly
+    CHECK(full.find("n1") == -1); // exactly
     CHECK_FALSE(full.hasRoomFor("New"));
     CHECK(full.hasRoomFor("N30"));
     // Names beyond the table's room keep their records, unless one of them is saved anew.
@@ -78,8 +78,8 @@ TEST_CASE("loading a row into the boxes") {
 }
 
 TEST_CASE("what a Save writes, or why it writes nothing") {
-    const DialogEntries valid{U"café", U"D:\\Jeux", U"Forêt", U"BF1942", U"1.50", {true, false,
-                                                                                  true}};
+    const DialogEntries valid{U"café",   U"D:\\Jeux", U"Forêt",
+                              U"BF1942", U"1.50",     {true, false, true}};
     const SavedRecord written = std::get<SavedRecord>(recordToSave(valid, kWestern));
     CHECK(joinLines(recordLines(written)) ==
           "[Save=caf\xE9]\r\ngamePath=D:\\Jeux\r\nlevelName=For\xEAt\r\nmodName=BF1942\r\n"
@@ -93,9 +93,13 @@ TEST_CASE("what a Save writes, or why it writes nothing") {
     } refusals[] = {
         {&DialogEntries::settingName, U"", {DialogRefusal::NoName}},
         {&DialogEntries::settingName, U"(Current)", {DialogRefusal::NoName}},
-        {&DialogEntries::settingName, U"Ω", {DialogRefusal::Unwritable, TextField::SettingName, U'Ω'}},
+        {&DialogEntries::settingName,
+         U"Ω",
+         {DialogRefusal::Unwritable, TextField::SettingName, U'Ω'}},
         {&DialogEntries::levelName, U"a\nb", {DialogRefusal::LineBreak, TextField::LevelName}},
-        {&DialogEntries::shadowDarkness, U"✓", {DialogRefusal::Unwritable, TextField::ShadowDarkness, U'✓'}},
+        {&DialogEntries::shadowDarkness,
+         U"✓",
+         {DialogRefusal::Unwritable, TextField::ShadowDarkness, U'✓'}},
     };
     for (const auto& r : refusals) {
         DialogEntries e = valid;
@@ -133,15 +137,15 @@ TEST_CASE("Save and Delete") {
         CHECK(r.selectedRow == 0);
         CHECK(refusalOf(planDelete(names, 0, file)).reason == DialogRefusal::NothingSelected);
         const std::string hand = record("(Current)");
-        CHECK(refusalOf(planDelete(SavedNameTable(hand), 1, hand)).reason ==
-              DialogRefusal::NoName);
+        CHECK(refusalOf(planDelete(SavedNameTable(hand), 1, hand)).reason == DialogRefusal::NoName);
     }
     SUBCASE("a full list refuses a new name but replaces its last row") {
         const std::string thirty = numbered(1, 30);
         const SavedNameTable full(thirty);
         CHECK(refusalOf(planSave(full, {"N31", "g", "l", "m", {}, "1"}, thirty)).reason ==
               DialogRefusal::NoRoom);
-        const Rewrite r = std::get<Rewrite>(planSave(full, {"N30", "g", "x", "m", {}, "1"}, thirty));
+        const Rewrite r =
+            std::get<Rewrite>(planSave(full, {"N30", "g", "x", "m", {}, "1"}, thirty));
         CHECK(r.configBytes == numbered(1, 29) + record("N30", "x"));
         // Records beyond the table's room survive a delete.
         const std::string more = numbered(1, 32);
@@ -151,11 +155,12 @@ TEST_CASE("Save and Delete") {
 }
 
 TEST_CASE("what OK applies") {
-    const DialogEntries e{U"x", U"C:\\Game", U"Level =1", U"Not A Listed Mod", U" 0.75 ",
-                          {true, true, false}};
+    const DialogEntries e{U"x",      U"C:\\Game",        U"Level =1", U"Not A Listed Mod",
+                          U" 0.75 ", {true, true, false}};
     CHECK(std::get<Configuration>(configurationToApply(e)) ==
           Configuration{U"C:\\Game", U"Level =1", U"Not A Listed Mod", 0.75, {true, true, false}});
-    for (auto text : {&DialogEntries::gamePath, &DialogEntries::levelName, &DialogEntries::modName}) {
+    for (auto text :
+         {&DialogEntries::gamePath, &DialogEntries::levelName, &DialogEntries::modName}) {
         DialogEntries incomplete = e;
         incomplete.*text = U"";
         CHECK(refusalOf(configurationToApply(incomplete)).reason == DialogRefusal::Incomplete);

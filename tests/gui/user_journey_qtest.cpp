@@ -28,7 +28,7 @@ class UserJourneyTest : public QObject {
         saveAs(w, "second");
         type(w.levelBox, "MyLevel");
         type(w.darknessBox, "2");
-        saveAs(w, "first"); // replaces: the record moves last
+        saveAs(w, "first");        // replaces: the record moves last
         chooseRow(w.savedList, 1); // "second"
         click(w.deleteButton);
         QCOMPARE(app.bytesOf("config.ini"),
@@ -43,14 +43,16 @@ class UserJourneyTest : public QObject {
         chooseRow(again.savedList, 1);
         click(again.okButton);
         QVERIFY(!app.window->pathsDialog()->isLoaded());
-        QCOMPARE(app.window->configuration(),
-                 (Configuration{U"D:\\Games\\BF1942", U"MyLevel", U"BF1942", 2, {true, false, true}}));
+        QCOMPARE(
+            app.window->configuration(),
+            (Configuration{U"D:\\Games\\BF1942", U"MyLevel", U"BF1942", 2, {true, false, true}}));
         QVERIFY(app.window->passEntries[int(Pass::Object)]->Checked());
 
         QTest::mouseClick(app.window->runLightingButton, Qt::LeftButton);
         QCOMPARE(app.launcher.started, QStringList{app.path("go.bat")});
         const QByteArray script = app.bytesOf("go.bat");
-        QVERIFY(script.startsWith("@cd D:\\Games\\BF1942\r\n@D:\r\n\"D:\\Games\\BF1942\\BF1942.exe\""));
+        QVERIFY(
+            script.startsWith("@cd D:\\Games\\BF1942\r\n@D:\r\n\"D:\\Games\\BF1942\\BF1942.exe\""));
         QVERIFY(script.contains(" +traceTerrainShadows ") && !script.contains(" +merge"));
         QVERIFY(script.endsWith(" +traceObjectShadows \"bf1942\\levels\\MyLevel\\\"\r\n"));
         QCOMPARE(app.status(), QString("Running batch lighting... You may exit."));

@@ -29,7 +29,8 @@ class SystemBoxesTest : public QObject {
     void theMessageBoxAnswersYesNoAndOk() {
         QtDialogs dialogs;
         QStringList titles;
-        auto answer = [&](MsgBoxButtons buttons, const char* title, QMessageBox::StandardButton click) {
+        auto answer = [&](MsgBoxButtons buttons, const char* title,
+                          QMessageBox::StandardButton click) {
             whenShown<QMessageBox>([&titles, click](QMessageBox* box) {
                 titles << box->windowTitle();
                 if (click == QMessageBox::NoButton)
@@ -94,8 +95,8 @@ class SystemBoxesTest : public QObject {
         QVERIFY(programFolderIsWritable(dir.path()));
 
         // r-x for everyone: root could still write there, the program does not
-        const auto readAndList = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther |
-                                 QFile::ExeOther;
+        const auto readAndList =
+            QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
         QVERIFY(QFile::setPermissions(dir.path(), readAndList));
         QVERIFY(!programFolderIsWritable(dir.path()));
         for (const FileResult& refused :

@@ -92,9 +92,9 @@ QStringList problemsAfter(TestApp& app, const Command& c, bool failed) {
     expect(files == QStringList(kKept.keys()), "files " + files.join(','));
     expect(app.dialogs.boxes.size() == c.questions + (failed ? 1 : 0), "boxes");
     const AskedBox box = app.dialogs.boxes.value(app.dialogs.boxes.size() - 1);
-    expect(!failed ||
-               (box.style.icon == MsgBoxIcon::Critical && box.prompt.contains("Injected failure.") &&
-                box.prompt.contains(QDir::toNativeSeparators(app.path(c.file)))),
+    expect(!failed || (box.style.icon == MsgBoxIcon::Critical &&
+                       box.prompt.contains("Injected failure.") &&
+                       box.prompt.contains(QDir::toNativeSeparators(app.path(c.file)))),
            "box " + box.prompt);
     const QString state = stateOf(app);
     expect(state == (failed ? c.failedState : c.doneState), "state " + state);

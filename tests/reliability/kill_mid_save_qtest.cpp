@@ -9,10 +9,10 @@
 #include <chrono>
 #include <thread>
 
-#include "support/dialog_driver.h"
-#include "platform/disk_file_ops.h"
-#include "core/text_lines.h"
 #include "core/config_walk.h"
+#include "core/text_lines.h"
+#include "platform/disk_file_ops.h"
+#include "support/dialog_driver.h"
 
 using namespace umbrakit;
 

@@ -60,7 +60,7 @@ inline QString texts(const PathsDialogWindow& w) {
     for (const QCheckBox* box : w.passBoxes)
         passes += box->isChecked() ? '1' : '0';
     return QStringList{w.nameBox->text(), w.gamePathBox->text(), w.levelBox->text(),
-                       w.modBox->Text(), w.darknessBox->text(), passes}
+                       w.modBox->Text(),  w.darknessBox->text(), passes}
         .join('|');
 }
 

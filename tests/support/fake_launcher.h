@@ -8,9 +8,9 @@
 namespace umbrakit {
 
 class FakeLauncher : public Launcher {
-public:
-    LaunchResult answer;  // what every start reports
-    QStringList started;  // the scripts asked for, in order
+  public:
+    LaunchResult answer; // what every start reports
+    QStringList started; // the scripts asked for, in order
 
     LaunchResult startScript(const QString& scriptPath) override {
         started << scriptPath;

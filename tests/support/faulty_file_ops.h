@@ -8,10 +8,10 @@
 namespace umbrakit {
 
 class FaultyFileOps : public FileOps {
-public:
-    int failAt = 0;       // the operation, counted from 1, that fails; 0 for none
-    int operations = 0;   // operations made so far (exists is no operation that can fail)
-    QStringList journal;  // "remove path", "writeNew path", ... in order
+  public:
+    int failAt = 0;      // the operation, counted from 1, that fails; 0 for none
+    int operations = 0;  // operations made so far (exists is no operation that can fail)
+    QStringList journal; // "remove path", "writeNew path", ... in order
 
     bool exists(const QString& path) override { return disk_.exists(path); }
     FileResult read(const QString& path, QByteArray& bytes) override;
@@ -19,7 +19,7 @@ public:
     FileResult writeNew(const QString& path, const QByteArray& bytes) override;
     FileResult renameOver(const QString& from, const QString& to) override;
 
-private:
+  private:
     bool failsNow(const QString& what);
     DiskFileOps disk_;
 };

@@ -31,7 +31,8 @@ struct TestApp {
     }
     void write(const QString& name, const QByteArray& bytes) const {
         QFile file(path(name));
-        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size())
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
+            file.write(bytes) != bytes.size())
             qFatal("cannot write %s", qPrintable(name));
     }
     QString status() const { return window->statusLine->SimpleText(); }

@@ -24,8 +24,8 @@ AboutWindow::AboutWindow() : QDialog(nullptr, kFixedDialogFlags) {
     black.setColor(QPalette::WindowText, Qt::black);
     contactLabel = place(new QLabel("Bugs and ideas: the Umbrakit issue tracker", this),
                          "lblDescription", 1050, 915, 3885, 225);
-    titleLabel = place(new QLabel("Umbrakit and lmList.dat Generator", this), "lblTitle", 1050,
-                       30, 3885, 480);
+    titleLabel = place(new QLabel("Umbrakit and lmList.dat Generator", this), "lblTitle", 1050, 30,
+                       3885, 480);
     titleLabel->setWordWrap(true);
     versionLabel = place(new QLabel("Version 1.2  Released 12/12/2003", this), "lblVersion", 1050,
                          570, 3885, 225);

@@ -6,11 +6,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "platform/services.h"
 #include "gui/paths_dialog/config_file.h"
 #include "gui/text_field_captions.h"
 #include "platform/combo_list.h"
 #include "platform/qt_text.h"
+#include "platform/services.h"
 
 namespace umbrakit {
 

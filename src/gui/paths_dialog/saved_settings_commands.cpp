@@ -3,9 +3,9 @@
 // the change, so a failure leaves the file and the list as they were.
 #include "gui/paths_dialog/config_file.h"
 #include "gui/paths_dialog/paths_dialog.h"
-#include "platform/services.h"
 #include "platform/combo_list.h"
 #include "platform/qt_text.h"
+#include "platform/services.h"
 
 namespace umbrakit {
 

@@ -65,8 +65,8 @@ class PathsDialogTest : public QObject {
         click(w.okButton);
         QCOMPARE(terrain.count() * 10 + merge.count(), 1);
         QCOMPARE(app.window->configuration(),
-                 (Configuration{U"D:\\BF", U"Level =1", U"Not A Listed Mod", 0.75,
-                                {true, true, false}}));
+                 (Configuration{
+                     U"D:\\BF", U"Level =1", U"Not A Listed Mod", 0.75, {true, true, false}}));
         QVERIFY(app.window->passEntries[int(Pass::Merge)]->Checked());
         QVERIFY(!app.window->pathsDialog()->isLoaded());
         QVERIFY(app.dialogs.boxes.isEmpty());
@@ -111,8 +111,9 @@ class PathsDialogTest : public QObject {
         QCOMPARE(w.savedList->ListIndex(), 3);
         QCOMPARE(texts(w), "Midway|E:\\BF|changed|DesertCombat|2.5|011");
         saveAs(w, "café"); // a new name beside a selected record is a second record
-        QVERIFY(app.bytesOf("config.ini")
-                    .endsWith(record("caf\xE9", "E:\\BF", "changed", "DesertCombat", "011", "2.5")));
+        QVERIFY(
+            app.bytesOf("config.ini")
+                .endsWith(record("caf\xE9", "E:\\BF", "changed", "DesertCombat", "011", "2.5")));
 
         chooseRow(w.savedList, 1);
         click(w.deleteButton); // only the selected record; row 0 shows the main window again
@@ -156,7 +157,8 @@ class PathsDialogTest : public QObject {
         TestApp app;
         PathsDialogWindow& w = openPaths(app);
         QStringList shown;
-        for (const char* answer : {"D:\\Games\\BF1942\\launcher.exe", "\\bf1942.exe", "a.exe", ""}) {
+        for (const char* answer :
+             {"D:\\Games\\BF1942\\launcher.exe", "\\bf1942.exe", "a.exe", ""}) {
             type(w.gamePathBox, "kept");
             app.dialogs.fileAnswers << answer;
             click(w.browseButton);
