@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+#include "platform/accessible_frame.h"
+
 namespace umbrakit {
 
 namespace {
@@ -10,6 +12,7 @@ constexpr int kBorderTop = 6; // half a caption's height
 
 ClassicFrame::ClassicFrame(const QString& caption, QWidget* parent)
     : QFrame(parent), caption_(new QLabel(caption, this)) {
+    exposeClassicFramesAsGroups();
     setFrameShape(QFrame::Box);
     setFrameShadow(QFrame::Sunken);
     setAccessibleName(caption);
@@ -22,6 +25,10 @@ ClassicFrame::ClassicFrame(const QString& caption, QWidget* parent)
 
 QString ClassicFrame::title() const {
     return caption_->text();
+}
+
+const QWidget* ClassicFrame::captionLabel() const {
+    return caption_;
 }
 
 void ClassicFrame::resizeEvent(QResizeEvent* event) {

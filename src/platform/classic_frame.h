@@ -1,5 +1,5 @@
 // A frame whose caption sits on its top border line, so that controls placed 14 pixels below
-// the frame's top stand inside it, clear of the caption.
+// the frame's top stand inside it, clear of the caption. Screen readers meet it as a group.
 #pragma once
 
 #include <QFrame>
@@ -14,6 +14,7 @@ class ClassicFrame : public QFrame {
     ClassicFrame(const QString& caption, QWidget* parent);
 
     QString title() const;
+    const QWidget* captionLabel() const;
 
   protected:
     void resizeEvent(QResizeEvent* event) override;

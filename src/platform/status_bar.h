@@ -1,4 +1,5 @@
-// A status bar in simple style: one text across its whole width, readable by screen readers.
+// A status bar in simple style: one text across its whole width, which screen readers speak
+// as the name of the line and announce at every change.
 #pragma once
 
 #include <QStatusBar>

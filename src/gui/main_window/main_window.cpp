@@ -10,6 +10,7 @@
 #include "gui/about/resources.h"
 #include "gui/main_window/patch_grid.h"
 #include "gui/paths_dialog/paths_dialog.h"
+#include "platform/classic_keys.h"
 #include "platform/click_check_box.h"
 #include "platform/combo_list.h"
 #include "platform/form_timer.h"
@@ -25,6 +26,7 @@ MainWindow::MainWindow(Services& services) : services(services), fileDialog_(ser
     buildMenu();
     connectHandlers();
     setTabOrder();
+    useClassicKeys(*this); // Alt+A selects all patches; About is reached by Alt or F10
     resize(twips(4950), twips(7350) + menuBar()->sizeHint().height());
 }
 

@@ -126,6 +126,8 @@ void MainWindow::setTabOrder() {
     for (ClickCheckBox* box : passBoxes)
         order << box;
     order << exportButton << runLightingButton;
+    // The patches follow in the chain, but only the grid's focused patch takes Tab: the grid
+    // is one stop, wherever in it that patch lies.
     for (int i = 0; i < kPatchCount; ++i)
         order << patchGrid->patch(i);
     for (int i = 0; i + 1 < order.size(); ++i)

@@ -1,7 +1,10 @@
 #include "gui/main_window/patch_grid.h"
 
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
+#include <algorithm>
 
 #include "platform/placement.h"
 
@@ -42,16 +45,24 @@ PatchGrid::PatchGrid(QWidget* parent) : QWidget(parent) {
         box->setEnabled(false);
         box->setAccessibleName(
             QString("Patch column %1, row %2").arg(patchColumn(i)).arg(patchRow(i)));
+        box->setFocusPolicy(i == focusedPatch_ ? Qt::StrongFocus : Qt::ClickFocus);
+        box->installEventFilter(this);
         patches_[std::size_t(i)] = box;
     }
 }
 
 void PatchGrid::showWorld(WorldSize world) {
+    world_ = world;
+    const bool focusInGrid = patch(focusedPatch_)->hasFocus();
+    for (int index = 0; index < kPatchCount; ++index) {
+        if (isInWorld(index, world))
+            patches_[std::size_t(index)]->setEnabled(true);
+    }
+    // Before the old patch is greyed, or Qt would hand the focus out of the grid.
+    moveTabStop(nearestPatchInWorld(focusedPatch_, world), focusInGrid);
     for (int index = 0; index < kPatchCount; ++index) {
         QCheckBox* box = patches_[std::size_t(index)];
-        if (isInWorld(index, world)) {
-            box->setEnabled(true);
-        } else {
+        if (!isInWorld(index, world)) {
             box->setEnabled(false);
             box->setChecked(false);
         }
@@ -73,6 +84,31 @@ PatchValues PatchGrid::values() const {
     for (int index = 0; index < kPatchCount; ++index)
         values[std::size_t(index)] = patches_[std::size_t(index)]->isChecked() ? 1 : 0;
     return values;
+}
+
+int PatchGrid::indexOf(const QObject* object) const {
+    const auto found = std::find(patches_.begin(), patches_.end(), object);
+    return found == patches_.end() ? -1 : int(found - patches_.begin());
+}
+
+bool PatchGrid::eventFilter(QObject* watched, QEvent* event) {
+    const int index = indexOf(watched);
+    if (index < 0)
+        return false;
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        return moveFocusByKey(*static_cast<QKeyEvent*>(event));
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        followFocus(index, event->type() == QEvent::FocusIn);
+        return false;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+        return followDrag(index, *static_cast<QMouseEvent*>(event));
+    default:
+        return false;
+    }
 }
 
 } // namespace umbrakit

@@ -1,15 +1,23 @@
 // The 16 by 16 patch grid with its axis labels. Its check boxes are the only store of the
 // selection: row 0 is at the bottom, column 0 at the left, patch index row * 16 + column.
+//
+// The grid is one tab stop: only its focused patch takes Tab, the arrow keys and Home, End,
+// Page Up and Page Down move the focus inside the world, and Space ticks as on any check box.
+// Dragging from a patch gives every patch passed over the new state of the first.
 #pragma once
 
+#include <QPoint>
 #include <QWidget>
 #include <array>
 
 #include "core/lmlist_format.h"
+#include "core/patch_navigation.h"
 #include "core/world_size.h"
 
 class QCheckBox;
+class QKeyEvent;
 class QLabel;
+class QMouseEvent;
 
 namespace umbrakit {
 
@@ -27,9 +35,34 @@ class PatchGrid : public QWidget {
     void clear();
     PatchValues values() const;
 
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
   private:
+    int indexOf(const QObject* object) const;
+
+    // Keys and focus (patch_grid_focus.cpp).
+    void moveTabStop(int patch, bool focus);
+    bool moveFocusByKey(const QKeyEvent& key);
+    void followFocus(int patch, bool focused);
+
+    // Dragging with the mouse (patch_grid_drag.cpp).
+    struct DragState {
+        int origin = -1;        // the pressed patch, -1 while no drag is under way
+        bool ticks = false;     // the state the drag gives
+        bool spreading = false; // the pointer has reached another patch
+        QPoint last;            // the pointer's last place, in grid coordinates
+    };
+    bool followDrag(int patch, QMouseEvent& mouse);
+    void spreadAlong(QPoint from, QPoint to);
+    void giveDragState(int patch);
+
     std::array<QCheckBox*, kPatchCount> patches_;
     std::array<QLabel*, 2 * kGridSide> axisLabels_;
+    WorldSize world_{0, 0};
+    int focusedPatch_ = 0; // holds the tab stop, focus or not; patch 0 lies in every world
+    DragState dragState_;
 };
 
 } // namespace umbrakit
