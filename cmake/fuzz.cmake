@@ -48,3 +48,12 @@ foreach(target_and_length config:16384 batch_script:4096 lmlist:2048)
     set_tests_properties(fuzz_${target} PROPERTIES
         FIXTURES_REQUIRED fuzz_targets LABELS fuzz TIMEOUT ${timeout})
 endforeach()
+
+# The hostile config.ini files among the seeds (cut short, too many records, values that are
+# no number or no Boolean, every high byte, NUL bytes, stray CRs, 100 kB lines), each replayed
+# once through the config target's checks, whole and whatever their size.
+add_test(NAME hostile_config
+    COMMAND sh -c "exec \"$0\" \"$1\"/*" ${fuzz_build}/targets/config_fuzz
+        ${fuzz_source}/corpus/config)
+set_tests_properties(hostile_config PROPERTIES
+    FIXTURES_REQUIRED fuzz_targets LABELS "reliability;fuzz" TIMEOUT 120)

@@ -4,6 +4,7 @@
 // Save and a Delete keep, and that a record the program writes loads back as written.
 #include "core/config_rewrite.h"
 #include "core/config_walk.h"
+#include "core/number_text.h"
 #include "core/saved_settings.h"
 #include "core/text_lines.h"
 #include "fuzz_check.h"
@@ -20,7 +21,8 @@ namespace {
 // Loading a name costs a pass over the file, so a file full of heads is sampled.
 constexpr std::size_t kNamesLoaded = 32;
 
-void checkLoad(const std::vector<std::string>& lines, const std::string& name) {
+void checkLoad(std::string_view bytes, const std::vector<std::string>& lines,
+               const std::string& name) {
     const RecordValues loaded = findRecordValues(lines, name);
     const auto head = std::ranges::find(lines, headFor(name));
     require(loaded.found == (head != lines.end()), "found exactly when the exact head is there");
@@ -32,6 +34,19 @@ void checkLoad(const std::vector<std::string>& lines, const std::string& name) {
             if (const std::optional<RecordKey> key = keyOfLine(*line))
                 expected.values[std::size_t(*key)] = valueOfLine(*line);
     require(loaded == expected, "a row loads the values of the lines behind its first head");
+    // The boxes show every loaded text whole; a darkness that is a number as its number text.
+    DialogEntries shown;
+    showSaved(shown, bytes, name, kWestern);
+    const auto value = [&](RecordKey key) { return loaded.values[std::size_t(key)]; };
+    const auto darkness = value(RecordKey::ShadowDarkness);
+    const auto number = darkness ? textToNumber(*darkness) : std::nullopt;
+    require((!value(RecordKey::GamePath) ||
+             shown.gamePath == fromAnsi(*value(RecordKey::GamePath), kWestern)) &&
+                (!value(RecordKey::ModName) ||
+                 shown.modName == fromAnsi(*value(RecordKey::ModName), kWestern)) &&
+                (!darkness || shown.shadowDarkness ==
+                                  fromAnsi(number ? numberText(*number) : *darkness, kWestern)),
+            "a row's texts reach the boxes whole");
 }
 
 // A record made of the file's own first lines, if the format can hold it: a name of one line
@@ -122,9 +137,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::set<std::string> loaded;
     for (std::size_t i = 0; i < names.size() && loaded.size() < kNamesLoaded; ++i)
         if (loaded.insert(names[i]).second)
-            checkLoad(lines, names[i]);
+            checkLoad(bytes, lines, names[i]);
     if (!lines.empty())
-        checkLoad(lines, lines.back()); // a name the file need not hold as a head
+        checkLoad(bytes, lines, lines.back()); // a name the file need not hold as a head
 
     const std::string kept = rewriteConfig(bytes, table, std::nullopt);
     const std::vector<std::string> keptLines = splitLines(kept);

@@ -1,12 +1,10 @@
-// Where the handlers rely on lists and timers behaving otherwise than plain Qt widgets. The
-// check box's one Click per real change and the menu tick that only the program sets are
-// tested through the three passes in tests/lighting/pass_options_qtest.cpp.
+// Where the handlers rely on a list behaving otherwise than a plain Qt combo box. The check
+// box's one Click per real change, the menu tick that only the program sets and the timer that
+// a second start does not put back are tested through the main window.
 #include <QSignalSpy>
 #include <QtTest>
 
 #include "platform/combo_list.h"
-#include "platform/form_timer.h"
-#include "support/elapse_timer.h"
 #include "support/user_input.h"
 
 using namespace umbrakit;
@@ -60,24 +58,6 @@ class ControlsTest : public QObject {
         QTest::keyClick(&list, Qt::Key_Up);
         QCOMPARE(list.ListIndex(), 1);
         QCOMPARE(clicks.count(), 3);
-    }
-
-    void aSecondStartDoesNotPutTheCountdownBack() {
-        FormTimer timer(1000);
-        QSignalSpy fired(&timer, &FormTimer::Timer);
-        timer.setEnabled(true);
-        QTest::qWait(400);
-        timer.setEnabled(true);
-        QVERIFY(timer.remainingMs() <= 650);
-        elapseNow(timer); // a test need not wait for the countdown
-        QCOMPARE(fired.count(), 1);
-        QVERIFY(timer.Enabled()); // countdowns follow each other while enabled
-        timer.setEnabled(false);
-        elapseNow(timer);
-        QCOMPARE(fired.count(), 1);
-        timer.setInterval(50);
-        timer.setEnabled(true);
-        QTRY_COMPARE(fired.count(), 2);
     }
 };
 

@@ -68,43 +68,30 @@ class SystemBoxesTest : public QObject {
                  QString());
     }
 
-    void replacingAFileRespectsItsReadOnlyMark() {
+    // The user's protection holds even for an administrator, who could write anyway: a file or
+    // a folder marked read-only takes no change, and the file stays as it was.
+    void readOnlyMarksOfFilesAndFolders() {
         QTemporaryDir dir;
         DiskFileOps disk;
-        const QString target = dir.filePath("config.ini");
-        const QString temp = dir.filePath("config.tmp");
-        QVERIFY(replaceWhole(disk, target, temp, "first"));
-        QVERIFY(replaceWhole(disk, target, temp, "second"));
-
-        // the user's protection holds even for an administrator
-        QFile::setPermissions(target, QFile::ReadOwner | QFile::ReadUser);
-        const FileResult refused = replaceWhole(disk, target, temp, "third");
-        QCOMPARE(refused.reason, QString("The file is read-only."));
-        QFile kept(target);
-        QVERIFY(kept.open(QIODevice::ReadOnly) && kept.readAll() == "second");
-        QVERIFY(!QFile::exists(temp));
-        QVERIFY(!disk.remove(target));
-        QVERIFY(!replaceWhole(disk, dir.filePath("gone/a.dat"), dir.filePath("gone/a.tmp"), "x"));
-    }
-
-    void aFolderMarkedReadOnlyTakesNoChange() {
-        QTemporaryDir dir;
-        DiskFileOps disk;
-        const QString config = dir.filePath("config.ini");
-        QVERIFY(replaceWhole(disk, config, dir.filePath("config.tmp"), "kept"));
+        const QString config = dir.filePath("config.ini"), temp = dir.filePath("config.tmp");
+        QVERIFY(replaceWhole(disk, config, temp, "first") &&
+                replaceWhole(disk, config, temp, "kept"));
         QVERIFY(programFolderIsWritable(dir.path()));
+        QVERIFY(!replaceWhole(disk, dir.filePath("gone/a.dat"), dir.filePath("gone/a.tmp"), "x"));
 
-        // r-x for everyone: root could still write there, the program does not
-        const auto readAndList =
-            QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+        QFile::setPermissions(config, QFile::ReadOwner);
+        QCOMPARE(replaceWhole(disk, config, temp, "new").reason, QString("The file is read-only."));
+        QCOMPARE(disk.remove(config).reason, QString("The file is read-only."));
+        QFile::setPermissions(config, QFile::ReadOwner | QFile::WriteOwner);
+        const auto readAndList = QFile::ReadOwner | QFile::ExeOwner;
         QVERIFY(QFile::setPermissions(dir.path(), readAndList));
         QVERIFY(!programFolderIsWritable(dir.path()));
         for (const FileResult& refused :
              {replaceWhole(disk, dir.filePath("lmList.dat"), dir.filePath("lmList.tmp"), "new"),
-              replaceWhole(disk, config, dir.filePath("config.tmp"), "new"), disk.remove(config)})
+              replaceWhole(disk, config, temp, "new"), disk.remove(config)})
             QCOMPARE(refused.reason, QString("The folder is read-only."));
-        QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{"config.ini"});
         QVERIFY(QFile::setPermissions(dir.path(), readAndList | QFile::WriteOwner));
+        QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{"config.ini"});
         QByteArray bytes;
         QVERIFY(disk.read(config, bytes) && bytes == "kept");
     }
