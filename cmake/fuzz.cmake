@@ -28,7 +28,7 @@ set_tests_properties(fuzz_compile_targets PROPERTIES
 
 # Target name and the longest input it is given: the config.ini reader gets room for very
 # long lines.
-foreach(target_and_length config:16384 batch_script:4096 lmlist:2048)
+foreach(target_and_length config:16384 outputs:4096)
     string(REPLACE ":" ";" target_and_length ${target_and_length})
     list(GET target_and_length 0 target)
     list(GET target_and_length 1 max_len)

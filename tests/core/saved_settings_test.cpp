@@ -5,6 +5,8 @@
 
 #include <doctest/doctest.h>
 
+#include <tuple>
+
 using namespace umbrakit;
 
 namespace {
@@ -80,35 +82,25 @@ TEST_CASE("loading a row into the boxes") {
 TEST_CASE("what a Save writes, or why it writes nothing") {
     const DialogEntries valid{U"café",   U"D:\\Jeux", U"Forêt",
                               U"BF1942", U"1.50",     {true, false, true}};
-    const SavedRecord written = std::get<SavedRecord>(recordToSave(valid, kWestern));
-    CHECK(joinLines(recordLines(written)) ==
+    CHECK(joinLines(recordLines(std::get<SavedRecord>(recordToSave(valid, kWestern)))) ==
           "[Save=caf\xE9]\r\ngamePath=D:\\Jeux\r\nlevelName=For\xEAt\r\nmodName=BF1942\r\n"
           "terrainBoolean=True\r\nmergeBoolean=False\r\nobjectBoolean=True\r\n"
           "shadowDarkness=1.50\r\n");
-
-    const struct {
-        std::u32string DialogEntries::*text;
-        std::u32string value;
-        DialogRefusal refusal;
-    } refusals[] = {
-        {&DialogEntries::settingName, U"", {DialogRefusal::NoName}},
-        {&DialogEntries::settingName, U"(Current)", {DialogRefusal::NoName}},
-        {&DialogEntries::settingName,
-         U"Ω",
-         {DialogRefusal::Unwritable, TextField::SettingName, U'Ω'}},
-        {&DialogEntries::levelName, U"a\nb", {DialogRefusal::LineBreak, TextField::LevelName}},
-        {&DialogEntries::shadowDarkness,
-         U"✓",
-         {DialogRefusal::Unwritable, TextField::ShadowDarkness, U'✓'}},
-    };
-    for (const auto& r : refusals) {
+    using R = DialogRefusal;
+    const std::tuple<std::u32string DialogEntries::*, std::u32string, DialogRefusal> refusals[] = {
+        {&DialogEntries::settingName, U"", {R::NoName}},
+        {&DialogEntries::settingName, U"(Current)", {R::NoName}}, // only in exactly this form
+        {&DialogEntries::settingName, U"Ω", {R::Unwritable, TextField::SettingName, U'Ω'}},
+        {&DialogEntries::levelName, U"a\nb", {R::LineBreak, TextField::LevelName}},
+        {&DialogEntries::shadowDarkness, U"✓", {R::Unwritable, TextField::ShadowDarkness, U'✓'}}};
+    for (const auto& [text, value, refusal] : refusals) {
         DialogEntries e = valid;
-        e.*r.text = r.value;
-        CHECK(refusalOf(recordToSave(e, kWestern)) == r.refusal);
+        e.*text = value;
+        CHECK(refusalOf(recordToSave(e, kWestern)) == refusal);
+        e.settingName = U"(current)";
+        CHECK(std::holds_alternative<SavedRecord>(recordToSave(e, kWestern)) ==
+              (text == &DialogEntries::settingName));
     }
-    DialogEntries otherCase = valid;
-    otherCase.settingName = U"(current)"; // only that exact name is refused
-    CHECK(std::holds_alternative<SavedRecord>(recordToSave(otherCase, kWestern)));
 }
 
 TEST_CASE("Save and Delete") {
