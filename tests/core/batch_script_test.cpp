@@ -72,20 +72,12 @@ TEST_CASE("go.bat") {
     }
 }
 
-TEST_CASE("completeness for a run") {
-    const Configuration blanks{U" ", U" ", U" ", 0.1, {}};
-    CHECK(isCompleteForRun(blanks));
-    for (double d : {0.0, -1.5, std::numeric_limits<double>::quiet_NaN()}) {
-        Configuration c = blanks;
-        c.shadowDarkness = d;
-        CHECK_FALSE(isCompleteForRun(c));
-    }
-    for (auto text :
-         {&Configuration::gamePath, &Configuration::levelName, &Configuration::modName}) {
-        Configuration c = blanks;
-        c.*text = U"";
-        CHECK_FALSE(isCompleteForRun(c));
-    }
+TEST_CASE("completeness for a run: a darkness above 0 and three texts, blanks being text") {
+    for (const auto& [c, complete] :
+         {std::pair{Configuration{U" ", U" ", U" ", 0.1, {}}, true},
+          {Configuration{U"g", U"l", U"m", std::numeric_limits<double>::quiet_NaN(), {}}, false},
+          {Configuration{U"g", U"", U"m", 1.5, {}}, false}})
+        CHECK(isCompleteForRun(c) == complete);
 }
 
 TEST_CASE("characters the batch processor would read otherwise") {
