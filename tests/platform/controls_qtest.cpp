@@ -5,7 +5,6 @@
 #include <QtTest>
 
 #include "platform/combo_list.h"
-#include "support/user_input.h"
 
 using namespace umbrakit;
 
@@ -41,23 +40,6 @@ class ControlsTest : public QObject {
         list.setText("MyMod");
         list.AddItem("BF1942");
         QCOMPARE(list.Text(), QString("MyMod"));
-    }
-
-    void theUserChoosingARowRaisesClickEvenForTheChosenOne() {
-        ComboList list;
-        for (const char* row : {"4x4", "8x8", "16x16"})
-            list.AddItem(row);
-        list.setListIndex(0);
-        list.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&list));
-        QSignalSpy clicks(&list, &ComboList::Click);
-        chooseRow(&list, 2);
-        QCOMPARE(list.ListIndex(), 2);
-        chooseRow(&list, 2);
-        QCOMPARE(clicks.count(), 2);
-        QTest::keyClick(&list, Qt::Key_Up);
-        QCOMPARE(list.ListIndex(), 1);
-        QCOMPARE(clicks.count(), 3);
     }
 };
 

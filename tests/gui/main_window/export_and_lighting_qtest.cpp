@@ -101,8 +101,6 @@ class ExportAndLightingTest : public QObject {
         } refusals[] = {
             {U"", U"MyLevel", U"BF1942", 1.5,
              "Error: Incomplete Config. Set Paths or Load Config. +timer |  | 0"},
-            {kGame, U"MyLevel", U"BF1942", 0.0,
-             "Error: Incomplete Config. Set Paths or Load Config. +timer |  | 0"},
             {kGame, U"MyLevel", U"😀é", 1.5,
              "Ready. +timer | The Mod Name \"😀é\" holds the character \"😀\", which go.bat ca | 0"},
             {U"D:\\Jeux\\Déjà vu", U"MyLevel", U"A&B", 1.5, // answered No
