@@ -8,7 +8,7 @@
 
 #include "gui/main_window/main_window.h"
 #include "platform/launcher.h"
-#include "support/scripted_dialogs.h"
+#include "support/test_doubles.h"
 #include "timed_file_ops.h"
 
 namespace umbrakit::bench {

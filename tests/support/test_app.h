@@ -9,9 +9,7 @@
 
 #include "gui/main_window/main_window.h"
 #include "platform/status_bar.h"
-#include "support/fake_launcher.h"
-#include "support/faulty_file_ops.h"
-#include "support/scripted_dialogs.h"
+#include "support/test_doubles.h"
 
 namespace umbrakit {
 

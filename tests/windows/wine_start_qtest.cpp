@@ -11,7 +11,7 @@
 #include "platform/disk_file_ops.h"
 #include "platform/menu_entry.h"
 #include "platform/qt_text.h"
-#include "support/scripted_dialogs.h"
+#include "support/test_doubles.h"
 #include "platform/status_bar.h"
 #include "platform/system_launcher.h"
 
