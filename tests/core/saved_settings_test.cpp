@@ -103,47 +103,36 @@ TEST_CASE("what a Save writes, or why it writes nothing") {
     }
 }
 
-TEST_CASE("Save and Delete") {
+TEST_CASE("Save and Delete: the file, the rows and the selected row after each") {
     const std::string file = record("Wake") + record("Midway") + record("Berlin");
     const SavedNameTable names(file);
-    const auto save = [&](const std::string& name, const std::string& level) {
-        SavedRecord r{name, "g", level, "m", {}, "1"};
-        return std::get<Rewrite>(planSave(names, r, file));
+    const auto rewrite = [](const auto& plan) { return std::get<Rewrite>(plan); };
+    const auto check = [](const Rewrite& r, const std::string& bytes,
+                          std::initializer_list<const char*> listed, int selected) {
+        CHECK(r.configBytes == bytes);
+        CHECK(r.names.rows() == rows(listed));
+        CHECK(r.selectedRow == selected);
     };
-    SUBCASE("a new name goes last and is selected") {
-        const Rewrite r = save("New", "l");
-        CHECK(r.configBytes == file + record("New"));
-        CHECK(r.names.rows() == rows({"Wake", "Midway", "Berlin", "New"}));
-        CHECK(r.selectedRow == 4);
-    }
-    SUBCASE("a listed name is replaced and moves last") {
-        const Rewrite r = save("Midway", "changed");
-        CHECK(r.configBytes == record("Wake") + record("Berlin") + record("Midway", "changed"));
-        CHECK(r.names.rows() == rows({"Wake", "Berlin", "Midway"}));
-        CHECK(r.selectedRow == 3);
-    }
-    SUBCASE("only the selected record goes, and row 0 is selected") {
-        const Rewrite r = std::get<Rewrite>(planDelete(names, 2, file));
-        CHECK(r.configBytes == record("Wake") + record("Berlin"));
-        CHECK(r.names.rows() == rows({"Wake", "Berlin"}));
-        CHECK(r.selectedRow == 0);
-        CHECK(refusalOf(planDelete(names, 0, file)).reason == DialogRefusal::NothingSelected);
-        const std::string hand = record("(Current)");
-        CHECK(refusalOf(planDelete(SavedNameTable(hand), 1, hand)).reason == DialogRefusal::NoName);
-    }
-    SUBCASE("a full list refuses a new name but replaces its last row") {
-        const std::string thirty = numbered(1, 30);
-        const SavedNameTable full(thirty);
-        CHECK(refusalOf(planSave(full, {"N31", "g", "l", "m", {}, "1"}, thirty)).reason ==
-              DialogRefusal::NoRoom);
-        const Rewrite r =
-            std::get<Rewrite>(planSave(full, {"N30", "g", "x", "m", {}, "1"}, thirty));
-        CHECK(r.configBytes == numbered(1, 29) + record("N30", "x"));
-        // Records beyond the table's room survive a delete.
-        const std::string more = numbered(1, 32);
-        CHECK(std::get<Rewrite>(planDelete(SavedNameTable(more), 1, more)).configBytes ==
-              numbered(2, 32));
-    }
+    // A new name goes last; a listed one is replaced and moves last with its row.
+    check(rewrite(planSave(names, {"New", "g", "l", "m", {}, "1"}, file)), file + record("New"),
+          {"Wake", "Midway", "Berlin", "New"}, 4);
+    check(rewrite(planSave(names, {"Midway", "g", "x", "m", {}, "1"}, file)),
+          record("Wake") + record("Berlin") + record("Midway", "x"), {"Wake", "Berlin", "Midway"},
+          3);
+    // Only the selected record goes, and row 0 is selected.
+    check(rewrite(planDelete(names, 2, file)), record("Wake") + record("Berlin"),
+          {"Wake", "Berlin"}, 0);
+    CHECK(refusalOf(planDelete(names, 0, file)).reason == DialogRefusal::NothingSelected);
+    const std::string hand = record("(Current)");
+    CHECK(refusalOf(planDelete(SavedNameTable(hand), 1, hand)).reason == DialogRefusal::NoName);
+
+    // A full list refuses a new name but replaces its last row; records beyond its room survive.
+    const std::string thirty = numbered(1, 30), more = numbered(1, 32);
+    CHECK(refusalOf(planSave(SavedNameTable(thirty), {"N31", "g", "l", "m", {}, "1"}, thirty))
+              .reason == DialogRefusal::NoRoom);
+    CHECK(rewrite(planSave(SavedNameTable(thirty), {"N30", "g", "x", "m", {}, "1"}, thirty))
+              .configBytes == numbered(1, 29) + record("N30", "x"));
+    CHECK(rewrite(planDelete(SavedNameTable(more), 1, more)).configBytes == numbered(2, 32));
 }
 
 TEST_CASE("what OK applies") {
