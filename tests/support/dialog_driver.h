@@ -21,11 +21,6 @@ inline PathsDialogWindow& openPaths(TestApp& app) {
     return *app.window->pathsDialog()->window();
 }
 
-inline PathsDialogWindow& reopenPaths(TestApp& app) { // a fresh load
-    app.window->pathsDialog()->unload();
-    return openPaths(app);
-}
-
 // Replaces the text as a user does; a character that no key gives comes by the input method.
 inline void type(QLineEdit* box, const QString& text) {
     box->selectAll();
@@ -47,11 +42,6 @@ inline QStringList rowsOf(const ComboList* list) {
     for (int i = 0; i < list->ListCount(); ++i)
         rows << list->List(i);
     return rows;
-}
-
-inline void saveAs(PathsDialogWindow& w, const QString& name) {
-    type(w.nameBox, name);
-    click(w.saveButton);
 }
 
 // name|game|level|mod|darkness|pass boxes, e.g. "101" for terrain and object.

@@ -91,7 +91,8 @@ class PathsDialogTest : public QObject {
         chooseRow(w.savedList, 2);
         QCOMPARE(texts(w), "Midway|E:\\BF|Midway|DesertCombat|2|011");
         type(w.darknessBox, "2.50");
-        saveAs(w, "café"); // a second record, shown as written
+        type(w.nameBox, "café");
+        click(w.saveButton); // a second record, shown as written
         QCOMPARE(rowsOf(w.savedList).last() + texts(w),
                  "cafécafé|E:\\BF|Midway|DesertCombat|2.5|011");
         QVERIFY(app.bytesOf("config.ini").startsWith(kWake + kMidway + kBerlin + "[Save=caf\xE9]"));
@@ -103,7 +104,8 @@ class PathsDialogTest : public QObject {
         click(w.deleteButton); // with row 0 nothing goes, and the boxes stay
         QCOMPARE(app.dialogs.boxes.size(), 1);
         QCOMPARE(texts(w), "Wake||||1.5|010");
-        QCOMPARE(rowsOf(reopenPaths(app).savedList).size(), 4);
+        app.window->pathsDialog()->unload();
+        QCOMPARE(rowsOf(openPaths(app).savedList).size(), 4);
     }
 
     // Qt's text boxes hold 32,767 characters unless told otherwise; a save would write a
@@ -127,7 +129,8 @@ class PathsDialogTest : public QObject {
         PathsDialogWindow& w = openPaths(app);
         QVERIFY(app.dialogs.boxes.at(0).prompt.contains(app.path("config.ini")));
         QCOMPARE(rowsOf(w.savedList), QStringList{"(Current)"});
-        saveAs(w, "New");
+        type(w.nameBox, "New");
+        click(w.saveButton);
         QCOMPARE(rowsOf(w.savedList), QStringList({"(Current)", "Wake", "Midway", "New"}));
         QVERIFY(app.bytesOf("config.ini").startsWith(kWake + kMidway));
     }
