@@ -1,7 +1,5 @@
-// The real message box and file dialog, answered by clicking them, and the real disk
-// operations on a temporary folder.
-#include <QFileDialog>
-#include <QLineEdit>
+// The real message box, answered by clicking it, and the real disk operations on a temporary
+// folder. The real file dialog is driven by the package test.
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -46,26 +44,6 @@ class SystemBoxesTest : public QObject {
         QCOMPARE(answer(MsgBoxButtons::YesNo, "File Exists...", QMessageBox::No), MsgBoxAnswer::No);
         QCOMPARE(answer(MsgBoxButtons::Ok, "", QMessageBox::NoButton), MsgBoxAnswer::Ok);
         QCOMPARE(titles, QStringList({"File Exists...", "File Exists...", "Umbrakit"}));
-    }
-
-    void theFileDialogTakesANewNameAndCancels() {
-        QTemporaryDir dir;
-        QtDialogs dialogs;
-        whenShown<QFileDialog>([](QFileDialog* dialog) {
-            QCOMPARE(dialog->nameFilters(),
-                     QStringList({"lmList.dat (lmList.dat)", "All Files (*.*) (*)"}));
-            auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
-            QCOMPARE(name->text(), QString("lmList.dat"));
-            name->setText("new list.dat");
-            QTest::keyClick(name, Qt::Key_Return);
-        });
-        QCOMPARE(dialogs.showOpen(
-                     {"lmList.dat|lmList.dat|All Files (*.*)|*.*", "lmList.dat", dir.path()}),
-                 QDir::toNativeSeparators(dir.filePath("new list.dat")));
-
-        whenShown<QFileDialog>([](QFileDialog* dialog) { dialog->reject(); });
-        QCOMPARE(dialogs.showOpen({"Battlefield 1942|bf1942.exe", "bf1942.exe", QString()}),
-                 QString());
     }
 
     // The user's protection holds even for an administrator, who could write anyway: a file or
