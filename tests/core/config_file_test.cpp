@@ -92,18 +92,3 @@ TEST_CASE("hand-edited files are read by position") {
         CHECK_FALSE(get(v, RecordKey::LevelName));
     }
 }
-
-TEST_CASE("a rewrite keeps what is listed, in file order, and puts the saved record last") {
-    const std::string file = fileOf({rec("a"), rec("b"), rec("a"), rec("c")});
-    SavedNameTable names(file);
-    names.remove(2); // "b"
-    CHECK(rewriteConfig(file, names, rec("b", "new")) ==
-          fileOf({rec("a"), rec("a"), rec("c"), rec("b", "new")}));
-    names.remove(1); // the other row still lists "a"
-    CHECK(rewriteConfig(file, names, std::nullopt) == fileOf({rec("a"), rec("a"), rec("c")}));
-    names.remove(1);
-    CHECK(rewriteConfig(file, names, std::nullopt) == fileOf({rec("c")}));
-    names.remove(1);
-    CHECK(rewriteConfig(file, names, std::nullopt) == ""); // 0 bytes, not no file
-    CHECK(rewriteConfig("", SavedNameTable(""), rec("first")) == fileOf({rec("first")}));
-}

@@ -85,7 +85,6 @@ class ExportAndLightingTest : public QObject {
             }
             const auto script = scriptBytes(app.window->configuration(), kWestern);
             QCOMPARE(app.bytesOf("go.bat").toStdString(), std::get<std::string>(script));
-            QCOMPARE(app.window->configuration().passes.object, bool(passes[i] & 4));
             QCOMPARE(app.files.journal.constLast(),
                      "renameOver " + app.path("go.bat.tmp") + " " + app.path("go.bat"));
             QCOMPARE(app.launcher.started, QStringList{app.path("go.bat")});

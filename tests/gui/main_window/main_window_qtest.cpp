@@ -24,10 +24,7 @@ void elapseNow(FormTimer& timer) {
 }
 
 int ticked(const MainWindow& window) {
-    int count = 0;
-    for (int i = 0; i < kPatchCount; ++i)
-        count += window.patchGrid->patch(i)->isChecked() ? 1 : 0;
-    return count;
+    return int(std::ranges::count(window.patchGrid->values(), 1));
 }
 
 } // namespace
