@@ -3,7 +3,6 @@
 //   go_bat_text <gamePath> <levelName> <modName> <shadowDarkness> <passes>
 // <passes> holds t, m and o for the terrain, merge and object passes, or "-" for none.
 #include <cstdio>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -12,25 +11,16 @@
 #include "core/number_text.h"
 
 int main(int argc, char** argv) {
-    if (argc != 6) {
-        std::fputs("usage: go_bat_text <gamePath> <levelName> <modName> <shadowDarkness> "
-                   "<passes: t, m, o or ->\n",
-                   stderr);
+    if (argc != 6)
         return 2;
-    }
-    const std::optional<double> darkness = umbrakit::textToNumber(argv[4]);
     const std::string_view passes = argv[5];
-    if (!darkness || passes.find_first_not_of("tmo-") != std::string_view::npos) {
-        std::fprintf(stderr, "go_bat_text: bad darkness '%s' or passes '%s'\n", argv[4], argv[5]);
-        return 2;
-    }
     using umbrakit::fromAnsi, umbrakit::kWestern;
     const umbrakit::Configuration c{fromAnsi(argv[1], kWestern), fromAnsi(argv[2], kWestern),
-                                    fromAnsi(argv[3], kWestern), *darkness,
+                                    fromAnsi(argv[3], kWestern),
+                                    umbrakit::textToNumber(argv[4]).value_or(0),
                                     {passes.find('t') != std::string_view::npos,
                                      passes.find('m') != std::string_view::npos,
                                      passes.find('o') != std::string_view::npos}};
-    const auto bytes = umbrakit::scriptBytes(c, kWestern);
-    const std::string& script = std::get<std::string>(bytes);
+    const std::string script = std::get<std::string>(umbrakit::scriptBytes(c, kWestern));
     return std::fwrite(script.data(), 1, script.size(), stdout) == script.size() ? 0 : 1;
 }
