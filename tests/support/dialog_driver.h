@@ -12,7 +12,6 @@
 #include "platform/combo_list.h"
 #include "platform/menu_entry.h"
 #include "support/test_app.h"
-#include "support/user_input.h"
 
 namespace umbrakit {
 

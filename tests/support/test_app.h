@@ -1,10 +1,14 @@
 // The program as a test meets it: the main window started on a temporary program folder,
-// real files, boxes and file dialogs answered from queues, a launcher that starts nothing.
+// real files, boxes and file dialogs answered from queues, a launcher that starts nothing;
+// and the mouse as a user moves it.
 #pragma once
 
-#include <QByteArray>
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTest>
 #include <memory>
 
 #include "gui/main_window/main_window.h"
@@ -41,5 +45,19 @@ struct TestApp {
         window->applyConfiguration({game, level, mod, darkness, window->configuration().passes});
     }
 };
+
+// Opens the list and clicks the row: one Click, as a user's choice.
+inline void chooseRow(QComboBox* combo, int row) {
+    combo->showPopup();
+    QAbstractItemView* view = combo->view();
+    const QRect rect = view->visualRect(view->model()->index(row, 0));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                      QPoint(rect.left() + 4, rect.center().y()));
+}
+
+// Clicks the box itself rather than the middle of its caption.
+inline void clickBox(QCheckBox* box) {
+    QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(6, box->height() / 2));
+}
 
 } // namespace umbrakit

@@ -12,7 +12,6 @@
 #include "platform/form_timer.h"
 #include "platform/menu_entry.h"
 #include "support/test_app.h"
-#include "support/user_input.h"
 
 using namespace umbrakit;
 
