@@ -100,10 +100,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const std::vector<std::string> names = readSavedNames(lines);
     const auto heads = std::ranges::count_if(lines, [](auto& line) { return isRecordHead(line); });
-    require(std::size_t(heads) >= names.size(), "no more names than head lines");
     // A record spans at most eight lines, so every head line lies in one of the records found.
-    require(std::size_t(heads) <= names.size() * (1 + kValueLinesPerRecord),
-            "no head line left unwalked");
+    require(std::size_t(heads) >= names.size() &&
+                std::size_t(heads) <= names.size() * (1 + kValueLinesPerRecord),
+            "a name for each record's head, and no head line left unwalked");
     const SavedNameTable table{bytes};
     std::vector<std::string> listed{std::string(kCurrentRow)};
     for (std::size_t i = 0; i < names.size() && i < std::size_t(kSavedNameCapacity); ++i)
