@@ -35,7 +35,6 @@ class MainWindowTest : public QObject {
         TestApp app;
         MainWindow& w = *app.window;
         PatchGrid& grid = *w.patchGrid;
-        QCOMPARE(w.worldSizeList->Text(), QString("4x4"));
         for (int i = 0; i < kPatchCount; ++i)
             QCOMPARE(grid.patch(i)->isEnabled(), i % 16 < 4 && i < 64);
         QCOMPARE(ticked(w), 0);

@@ -25,18 +25,15 @@ std::string utf8(const std::wstring& text) {
 }
 
 std::wstring logPath() {
-    std::wstring exe(MAX_PATH, L'\0');
-    DWORD length;
-    while ((length = GetModuleFileNameW(nullptr, exe.data(), DWORD(exe.size()))) == exe.size())
-        exe.resize(exe.size() * 2);
-    exe.resize(length);
-    return exe.substr(0, exe.rfind(L'\\') + 1) + L"BF1942.log";
+    wchar_t exe[32768] = {};
+    GetModuleFileNameW(nullptr, exe, DWORD(std::size(exe)));
+    const std::wstring path(exe);
+    return path.substr(0, path.rfind(L'\\') + 1) + L"BF1942.log";
 }
 
 std::wstring workingFolder() {
-    std::wstring folder(GetCurrentDirectoryW(0, nullptr), L'\0');
-    folder.resize(GetCurrentDirectoryW(DWORD(folder.size()), folder.data()));
-    return folder;
+    wchar_t folder[32768] = {};
+    return std::wstring(folder, GetCurrentDirectoryW(DWORD(std::size(folder)), folder));
 }
 
 // Opens, appends and closes at once, so that overlapping starts would interleave their lines.
