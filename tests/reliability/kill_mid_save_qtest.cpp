@@ -11,7 +11,6 @@
 
 #include "core/config_walk.h"
 #include "core/text_lines.h"
-#include "platform/disk_file_ops.h"
 #include "support/dialog_driver.h"
 
 using namespace umbrakit;

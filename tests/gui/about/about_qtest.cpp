@@ -12,8 +12,9 @@ using namespace umbrakit;
 class AboutTest : public QObject {
     Q_OBJECT
   private slots:
-    // One object, its window loaded and unloaded: by OK, Enter, Esc or the border.
-    void opensOnceAndClosesByOkEnterEscOrBorder() {
+    // One object, its window loaded and unloaded: by OK, Enter, Esc or the border. The retired
+    // commands answer with their box and touch nothing.
+    void aboutAndTheRetiredCommands() {
         TestApp app;
         for (int closing = 0; closing < 4; ++closing) {
             app.window->aboutEntry->trigger();
@@ -28,10 +29,6 @@ class AboutTest : public QObject {
                 QTest::keyClick(w, closing == 1 ? Qt::Key_Return : Qt::Key_Escape);
             QTRY_VERIFY(!app.window->aboutBox()->isLoaded());
         }
-    }
-
-    void retiredCommandsSendTheUserToThePathsDialog() {
-        TestApp app;
         app.window->retiredSaveEntry->trigger();
         app.window->retiredLoadEntry->trigger();
         QCOMPARE(app.dialogs.boxes.size(), 2);

@@ -1,6 +1,5 @@
 // The main window as the user meets it: the patch grid under every world size, the three
 // passes kept in step whichever way they change, the status line's timer, and the end.
-#include <QCheckBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
