@@ -41,24 +41,18 @@ DialogRefusal refusalOf(const auto& outcome) {
 
 TEST_CASE("the saved name table") {
     const SavedNameTable full(numbered(1, 32));
-    CHECK(full.rows().size() == 31);
-    CHECK(full.find("N30") == 30); // the last row is searched like any other
-    CHECK(full.find("(Current)") == 0);
-    CHECK(full.find("n1") == -1); // exactly
-    CHECK_FALSE(full.hasRoomFor("New"));
-    CHECK(full.hasRoomFor("N30"));
+    // The last row is searched like any other, names are found exactly, and row 0 is listed.
+    CHECK((full.rows().size() == 31 && full.find("N30") == 30 && full.find("(Current)") == 0));
+    CHECK(full.find("n1") == -1);
+    CHECK((!full.hasRoomFor("New") && full.hasRoomFor("N30")));
     // Names beyond the table's room keep their records, unless one of them is saved anew.
-    CHECK(full.keeps("N31", std::nullopt));
-    CHECK_FALSE(full.keeps("N31", "N31"));
+    CHECK((full.keeps("N31", std::nullopt) && !full.keeps("N31", "N31")));
     CHECK_FALSE(full.keeps("Gone", std::nullopt));
 
     const SavedNameTable holed(record("") + numbered(1, 30)); // an empty name takes an entry
-    CHECK(holed.rows().size() == 30);
-    CHECK(holed.find("N30") == -1);
+    CHECK((holed.rows().size() == 30 && holed.find("N30") == -1));
     CHECK(holed.keeps("N30", std::nullopt));
-
-    CHECK(SavedNameTable().rows() == rows({}));
-    CHECK_FALSE(SavedNameTable().namesKnown());
+    CHECK((SavedNameTable().rows() == rows({}) && !SavedNameTable().namesKnown()));
 }
 
 TEST_CASE("loading a row into the boxes") {

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QPushButton>
