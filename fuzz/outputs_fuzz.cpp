@@ -96,7 +96,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     c.levelName = fromAnsi(in.ConsumeRandomLengthString(), codePage);
     c.modName = fromAnsi(in.ConsumeRemainingBytesAsString(), codePage);
     checkNumberText(c.shadowDarkness);
-    require(!isCompleteForRun(c) || c.shadowDarkness > 0, "no run without a darkness above 0");
     checkScript(c, codePage);
     return 0;
 }

@@ -76,7 +76,8 @@ TEST_CASE("completeness for a run: a darkness above 0 and three texts, blanks be
     for (const auto& [c, complete] :
          {std::pair{Configuration{U" ", U" ", U" ", 0.1, {}}, true},
           {Configuration{U"g", U"l", U"m", std::numeric_limits<double>::quiet_NaN(), {}}, false},
-          {Configuration{U"g", U"", U"m", 1.5, {}}, false}})
+          {Configuration{U"g", U"", U"m", 1.5, {}}, false},
+          {Configuration{U"g", U"l", U"m", 0.0, {}}, false}})
         CHECK(isCompleteForRun(c) == complete);
 }
 

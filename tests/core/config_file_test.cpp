@@ -83,6 +83,7 @@ TEST_CASE("hand-edited files are read by position") {
         lines.erase(lines.begin() + 4, lines.begin() + 8);
         CHECK(readSavedNames(lines) == std::vector<std::string>{"short"});
         CHECK(get(findRecordValues(lines, "short"), RecordKey::LevelName) == "L2");
+        CHECK_FALSE(get(findRecordValues(lines, "short"), RecordKey::TerrainBoolean)); // 8th line
         CHECK(findRecordValues(lines, "next").found);
     }
     SUBCASE("first of two identical heads counts; a level name holding gamePath is a game path") {
