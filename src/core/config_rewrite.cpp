@@ -12,23 +12,16 @@ std::string rewriteConfig(std::string_view oldBytes, const SavedNameTable& names
     if (savedRecord)
         savedName = savedRecord->name;
     std::vector<std::string> out;
-    std::size_t i = 0;
-    while (i < lines.size()) {
-        if (!isRecordHead(lines[i])) {
-            ++i;
-            continue;
-        }
-        const std::size_t end = endOfRecord(lines, i);
+    forEachRecord(lines, [&](std::size_t head, std::size_t end) {
+        if (!names.keeps(nameOfHead(lines[head]), savedName))
+            return;
         // A kept record cut short by the end of the file is padded with empty lines to its
         // seven: an empty line holds no key word, so loading it changes nothing, and a record
         // saved behind it keeps a head of its own instead of falling among its value lines.
-        if (names.keeps(nameOfHead(lines[i]), savedName)) {
-            out.insert(out.end(), lines.begin() + std::ptrdiff_t(i),
-                       lines.begin() + std::ptrdiff_t(end));
-            out.resize(out.size() + (i + 1 + kValueLinesPerRecord - end));
-        }
-        i = end;
-    }
+        out.insert(out.end(), lines.begin() + std::ptrdiff_t(head),
+                   lines.begin() + std::ptrdiff_t(end));
+        out.resize(out.size() + (head + 1 + kValueLinesPerRecord - end));
+    });
     if (savedRecord)
         for (std::string& line : recordLines(*savedRecord))
             out.push_back(std::move(line));

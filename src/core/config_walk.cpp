@@ -5,21 +5,24 @@
 
 namespace umbrakit {
 
-std::size_t endOfRecord(const std::vector<std::string>& lines, std::size_t head) {
-    return std::min(lines.size(), head + 1 + kValueLinesPerRecord);
-}
-
-std::vector<std::string> readSavedNames(const std::vector<std::string>& lines) {
-    std::vector<std::string> names;
+void forEachRecord(const std::vector<std::string>& lines,
+                   const std::function<void(std::size_t head, std::size_t end)>& visit) {
     std::size_t i = 0;
     while (i < lines.size()) {
         if (!isRecordHead(lines[i])) {
             ++i;
             continue;
         }
-        names.push_back(nameOfHead(lines[i]));
-        i = endOfRecord(lines, i);
+        const std::size_t end = std::min(lines.size(), i + 1 + kValueLinesPerRecord);
+        visit(i, end);
+        i = end;
     }
+}
+
+std::vector<std::string> readSavedNames(const std::vector<std::string>& lines) {
+    std::vector<std::string> names;
+    forEachRecord(lines,
+                  [&](std::size_t head, std::size_t) { names.push_back(nameOfHead(lines[head])); });
     return names;
 }
 

@@ -5,6 +5,7 @@
 #include "core/config_format.h"
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,9 +13,12 @@
 
 namespace umbrakit {
 
-// The index behind the value lines of the head at `head`. A record cut short by the end of
-// the file simply ends there.
-std::size_t endOfRecord(const std::vector<std::string>& lines, std::size_t head);
+// Calls visit(head, end) for each record in file order: the index of its head line and the
+// index behind its value lines, at most seven and fewer where the file ends first. Lines
+// outside records that are no heads are passed over; the lines behind a head are never
+// looked at for heads, so a value holding "Save" never starts a record.
+void forEachRecord(const std::vector<std::string>& lines,
+                   const std::function<void(std::size_t head, std::size_t end)>& visit);
 
 // The names of all heads in file order, empty names included, so the caller sees what a fill
 // of the name table would see. Walks record by record: the seven lines behind a head are
