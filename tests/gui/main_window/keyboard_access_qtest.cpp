@@ -14,7 +14,9 @@ using namespace umbrakit;
 
 namespace {
 QList<std::pair<QObject*, QAccessible::Event>> heard;
-QAccessibleInterface* spoken(QObject* object) { return QAccessible::queryAccessibleInterface(object); }
+QAccessibleInterface* spoken(QObject* object) {
+    return QAccessible::queryAccessibleInterface(object);
+}
 
 void activate(QWidget& window) {
     window.activateWindow();
@@ -31,6 +33,26 @@ QList<int> ticked(const PatchGrid& grid) {
             patches << i;
     return patches;
 }
+// The patches with the focus ring around them, as the screen shows them: the ring fills the
+// margin on all four sides of the box.
+QList<int> ringed(const PatchGrid& grid) {
+    QWidget& window = *grid.window();
+    const QImage shot = window.screen()->grabWindow(window.winId()).toImage();
+    const qreal scale = shot.devicePixelRatio();
+    const QColor ring = grid.palette().color(QPalette::Highlight);
+    QList<int> patches;
+    for (int i = 0; i < kPatchCount; ++i) {
+        const QRect box(grid.patch(i)->mapTo(&window, QPoint()), grid.patch(i)->size());
+        const QPoint margin[] = {{box.center().x(), box.top() - 1},
+                                 {box.center().x(), box.bottom() + 1},
+                                 {box.left() - 1, box.center().y()},
+                                 {box.right() + 1, box.center().y()}};
+        if (std::ranges::all_of(margin,
+                                [&](QPoint p) { return shot.pixelColor(p * scale) == ring; }))
+            patches << i;
+    }
+    return patches;
+}
 } // namespace
 
 class KeyboardAccessTest : public QObject {
@@ -38,8 +60,9 @@ class KeyboardAccessTest : public QObject {
   private slots:
     // Qt reports focus moves only while a screen reader may listen: the bus must be on.
     void initTestCase() {
-        QAccessible::installUpdateHandler(
-            [](QAccessibleEvent* event) { heard.append({event->object(), event->type()}); });
+        QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+            heard.append({event->object(), event->type()});
+        });
         QTRY_VERIFY_WITH_TIMEOUT(QAccessible::isActive(), 10000);
     }
 
@@ -97,19 +120,21 @@ class KeyboardAccessTest : public QObject {
         activate(w);
         w.runLightingButton->setFocus();
         const std::pair<const char*, int> steps[] = {
-            {"Tab", 0},    {"Up", 16},  {"Right", 17},  {"End", 23},   {"Right", 23},
-            {"PgUp", 119}, {"Up", 119}, {"Home", 112},  {"Left", 112}, {"PgDown", 0},
+            {"Tab", 0},    {"Up", 16},      {"Right", 17},      {"End", 23},    {"Right", 23},
+            {"PgUp", 119}, {"Up", 119},     {"Home", 112},      {"Left", 112},  {"PgDown", 0},
             {"Down", 0},   {"Ctrl+End", 7}, {"Ctrl+Home", 112}, {"Right", 113}, {"Space", 113}};
         for (const auto& [key, patch] : steps) {
             const QWidget* before = QApplication::focusWidget();
             heard.clear();
             press(w, key);
             QVERIFY2(QApplication::focusWidget() == grid.patch(patch), key);
-            QVERIFY(before == grid.patch(patch) || heard.contains({grid.patch(patch), QAccessible::Focus}));
+            QVERIFY(before == grid.patch(patch) ||
+                    heard.contains({grid.patch(patch), QAccessible::Focus}));
         }
         QAccessibleInterface* patch = spoken(grid.patch(113));
         QCOMPARE(ticked(grid), QList<int>{113});
-        QVERIFY(patch->state().checked && heard.contains({patch->object(), QAccessible::StateChanged}));
+        QVERIFY(patch->state().checked &&
+                heard.contains({patch->object(), QAccessible::StateChanged}));
         QCOMPARE(patch->text(QAccessible::Name), QString("Patch column 1, row 7"));
         press(w, "Tab"); // out of the grid in one step
         QCOMPARE(QApplication::focusWidget(), w.worldSizeList);
@@ -135,6 +160,34 @@ class KeyboardAccessTest : public QObject {
         drag({51, 48}); // from a ticked patch: unticks, whatever it crosses
         QCOMPARE(ticked(grid), (QList<int>{0, 1, 2, 3}));
         QCOMPARE(clicks, 6);
+    }
+
+    // After a click on a patch the keys go on from there: the arrows move from it, Space
+    // ticks where the focus is, Tab leaves the grid and comes back to the last patch, and
+    // the focus ring stands around the focused patch and nowhere else.
+    void theKeysGoOnFromAClickedPatch() {
+        TestApp app;
+        MainWindow& w = *app.window;
+        PatchGrid& grid = *w.patchGrid;
+        chooseRow(w.worldSizeList, 1); // "8x8"
+        activate(w);
+        const std::pair<const char*, int> steps[] = {
+            {"click 35", 35},  {"Right", 36},    {"Up", 52},        {"Space", 52}, {"Tab", -1},
+            {"Shift+Tab", 52}, {"click 97", 97}, {"Shift+Tab", -1}, {"Tab", 97},   {"Left", 96}};
+        for (const auto& [step, patch] : steps) {
+            if (QString(step).startsWith("click")) {
+                QCheckBox* box = grid.patch(QString(step).mid(6).toInt());
+                QTest::mouseClick(w.windowHandle(), Qt::LeftButton, {},
+                                  box->mapTo(&w, box->rect().center()));
+            } else {
+                press(w, step);
+            }
+            QVERIFY2(patch < 0 ? !grid.isAncestorOf(QApplication::focusWidget())
+                               : QApplication::focusWidget() == grid.patch(patch),
+                     step);
+            QTRY_COMPARE(ringed(grid), patch < 0 ? QList<int>() : QList<int>{patch});
+        }
+        QCOMPARE(ticked(grid), (QList<int>{35, 52, 97}));
     }
 };
 
