@@ -5,6 +5,8 @@
 
 #include <doctest/doctest.h>
 
+#include <algorithm>
+#include <ranges>
 #include <sstream>
 
 using namespace umbrakit;
@@ -17,23 +19,14 @@ PatchSelection after(const std::string& steps) {
     std::istringstream words(steps);
     for (std::string word; words >> word;) {
         const int number = word.size() > 1 ? std::stoi(word.substr(1)) : 0;
-        switch (word[0]) {
-        case 'w':
-            listIndex = number;
-            selection.showWorld(worldSizeFor(listIndex));
-            break;
-        case 'c':
+        if (word[0] == 'w')
+            selection.showWorld(worldSizeFor(listIndex = number));
+        else if (word[0] == 'c')
             selection.click(number);
-            break;
-        case 'A':
+        else if (word == "A")
             selection.selectAll(worldSizeFor(listIndex));
-            break;
-        case 'C':
+        else
             selection.clear();
-            break;
-        default:
-            FAIL("unknown step " << word);
-        }
     }
     // Whatever happened, no greyed patch stays ticked.
     for (int patch = 0; patch < kPatchCount; ++patch)
@@ -42,10 +35,8 @@ PatchSelection after(const std::string& steps) {
 }
 
 int enabledCount(const PatchSelection& selection) {
-    int enabled = 0;
-    for (int patch = 0; patch < kPatchCount; ++patch)
-        enabled += selection.isEnabled(patch) ? 1 : 0;
-    return enabled;
+    return int(std::ranges::count_if(std::views::iota(0, kPatchCount),
+                                     [&](int patch) { return selection.isEnabled(patch); }));
 }
 
 const std::vector<int> k4x4{0, 1, 2, 3, 16, 17, 18, 19, 32, 33, 34, 35, 48, 49, 50, 51};
