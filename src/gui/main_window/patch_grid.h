@@ -34,7 +34,6 @@ class PatchGrid : public QWidget {
     // Every patch of the world ticked, every other one unticked.
     void selectAll(WorldSize world);
     void clear();
-    PatchValues values() const { return selection_.values(); }
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
