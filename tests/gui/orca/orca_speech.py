@@ -18,7 +18,7 @@ import time
 
 HERE = os.path.dirname(os.path.abspath(__file__))
 OUTCOME_WITHIN = 1.0  # seconds from the key to the spoken outcome
-SPEECH_WITHIN = 5.0  # seconds for what Orca says as the focus moves
+SPEECH_WITHIN = 10.0  # seconds at most for what Orca says as the focus moves
 QUIET_AFTER_OUTCOME = 0.5  # seconds in which nothing may cut a spoken outcome short
 DOUBLE_PRESS_TIME = 0.6  # Orca takes a key pressed again within 0.5 s as a double press
 
@@ -125,7 +125,7 @@ class Session:
         self.window = subprocess.Popen(
             [self.program, self.app], cwd=self.export,
             stdout=open(os.path.join(self.dir, "program.out"), "wb"), stderr=subprocess.STDOUT)
-        self.main_window = self.find_window("Umbrakit", within=15)
+        self.main_window = self.find_window("Umbrakit", within=30)
 
     def stop(self):
         for process in (self.window, self.orca):
@@ -159,6 +159,11 @@ class Session:
             if time.time() > deadline:
                 raise Failure("the window %r did not close" % title)
             time.sleep(0.05)
+
+    def back_from(self, title):
+        """A window closes and the focus goes back to the main window."""
+        self.gone(title)
+        self.focus(self.main_window)
 
     def focus(self, window):
         """Gives a window the focus, as a window manager would."""
@@ -222,7 +227,8 @@ class Session:
         self.start()
         since = self.mark()
         self.focus(self.main_window)
-        self.wait_for(["Umbrakit frame", "4x4 combo box"], since=since, what="the start")
+        self.wait_for(["Umbrakit frame", "4x4 combo box"], within=30, since=since,
+                      what="the start")
 
         # A message box is read out with its title and text; Return closes it.
         self.after(["ctrl+s"], ["Depreciated",
@@ -265,13 +271,13 @@ class Session:
         self.after(["ctrl+e"], ["File name:"], "the export's file dialog")
         since, pressed = self.mark(), time.time()
         self.press("Escape")
-        self.focus(self.main_window)
+        self.back_from("Open")
         self.outcome("Save Cancled.", since, pressed)
 
         self.after(["ctrl+e"], ["File name:"], "the export's file dialog")
         since, pressed = self.mark(), time.time()
         self.press("Return")
-        self.focus(self.main_window)
+        self.back_from("Open")
         self.outcome("Saved!", since, pressed)
         if not os.path.exists(os.path.join(self.export, "lmList.dat")):
             raise Failure("lmList.dat was not written")
