@@ -284,7 +284,7 @@ class Session:
 
         # The paths dialog: each box by its caption, and a saved setting chosen from the list,
         # which Alt+Down opens; Return takes the row, and a second Return presses OK.
-        self.after(["ctrl+p"], ["Set Paths... dialog", "(Current) combo box"],
+        self.after(["ctrl+p"], ["Set Paths... dialog", "(Current) combo box", "Load Setting"],
                    "the paths dialog")
         for caption in ["Setting Name text", "Save push button", "Game Path text",
                         "Browse for bf1942.exe", "Level Name text", "Mod Name editable combo box",
@@ -294,7 +294,10 @@ class Session:
         self.after(["alt+Down"], ["List with 3 items"], "the saved settings opened")
         self.after(["Down"], ["Wake"], "the first saved setting")
         self.after(["Down"], ["Midway"], "the second saved setting")
-        self.after(["Return"], ["Midway combo box"], "the saved setting chosen")
+        since = self.mark()
+        self.press("Return")
+        self.wait_for(["Midway combo box", "Load Setting"], since=since, in_order=True,
+                      what="the saved setting chosen")
         self.press("Return")
         self.gone("Set Paths...")
         since = self.mark()
