@@ -20,6 +20,7 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 OUTCOME_WITHIN = 1.0  # seconds from the key to the spoken outcome
 SPEECH_WITHIN = 10.0  # seconds at most for what Orca says as the focus moves
 QUIET_AFTER_OUTCOME = 0.5  # seconds in which nothing may cut a spoken outcome short
+STATUS_TIMER = 7.5  # seconds until the status line goes back to "Ready."
 DOUBLE_PRESS_TIME = 0.6  # Orca takes a key pressed again within 0.5 s as a double press
 
 INCOMPLETE = "Error: Incomplete Config. Set Paths or Load Config."
@@ -34,6 +35,11 @@ class Failure(Exception):
 def seconds_of_day(t):
     local = time.localtime(t)
     return local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec + t % 1
+
+
+def seconds_between(earlier, later):
+    """Between two times of day as Orca logs them, across midnight too."""
+    return (later - earlier + 43200) % 86400 - 43200
 
 
 class Speech:
@@ -112,6 +118,7 @@ class Session:
         self.window = None
         self.started = time.time()
         self.latencies = []
+        self.first_outcome_at = None
 
     # --- processes -------------------------------------------------------------------------
 
@@ -161,9 +168,12 @@ class Session:
             time.sleep(0.05)
 
     def back_from(self, title):
-        """A window closes and the focus goes back to the main window."""
+        """A window closes and the focus goes back to the main window; gives the time at which
+        the window was seen closed: the status line's text appears as the dialog closes."""
         self.gone(title)
+        closed = time.time()
         self.focus(self.main_window)
+        return closed
 
     def focus(self, window):
         """Gives a window the focus, as a window manager would."""
@@ -207,18 +217,20 @@ class Session:
         self.wait_for(phrases, within, since, what)
 
     def outcome(self, text, since, pressed_at):
-        """The outcome is spoken within a second of the key and nothing cuts it short."""
+        """The outcome is spoken within a second of its key, or of its dialog closing, and
+        nothing cuts it short."""
         when = self.wait_for([text], OUTCOME_WITHIN + 1, since, "the outcome " + text)
-        latency = (when - seconds_of_day(pressed_at)) % 86400
+        latency = seconds_between(seconds_of_day(pressed_at), when)
         if latency > OUTCOME_WITHIN:
-            raise Failure("%r was spoken %.2f s after the key" % (text, latency))
+            raise Failure("%r was spoken %.2f s after it appeared" % (text, latency))
+        self.first_outcome_at = self.first_outcome_at or pressed_at
         time.sleep(QUIET_AFTER_OUTCOME)
         self.speech.poll()
         later = [t for w, t in self.speech.spoken_since(since) if w > when]
         if later:
             raise Failure("%r was cut short by %r" % (text, later))
         pressed = seconds_of_day(pressed_at)
-        self.latencies.append((text, latency, ["%.2f %s" % ((w - pressed) % 86400, t)
+        self.latencies.append((text, latency, ["%.2f %s" % (seconds_between(pressed, w), t)
                                                for w, t, _ in self.speech.heard[since:]]))
 
     # --- the user's steps ------------------------------------------------------------------
@@ -269,16 +281,14 @@ class Session:
 
         # The export, cancelled in its file dialog, and then saved.
         self.after(["ctrl+e"], ["File name:"], "the export's file dialog")
-        since, pressed = self.mark(), time.time()
+        since = self.mark()
         self.press("Escape")
-        self.back_from("Open")
-        self.outcome("Save Cancled.", since, pressed)
+        self.outcome("Save Cancled.", since, self.back_from("Open"))
 
         self.after(["ctrl+e"], ["File name:"], "the export's file dialog")
-        since, pressed = self.mark(), time.time()
+        since = self.mark()
         self.press("Return")
-        self.back_from("Open")
-        self.outcome("Saved!", since, pressed)
+        self.outcome("Saved!", since, self.back_from("Open"))
         if not os.path.exists(os.path.join(self.export, "lmList.dat")):
             raise Failure("lmList.dat was not written")
 
@@ -319,6 +329,8 @@ class Session:
         self.press("Escape")
         self.gone("About...")
 
+        # The line has gone back to "Ready." at least once by now, 7.5 s after an outcome.
+        time.sleep(max(0.0, self.first_outcome_at + STATUS_TIMER + 0.5 - time.time()))
         self.speech.poll()
         spoken = [t for _, t, _ in self.speech.heard]
         for text in NEVER_SPOKEN:
@@ -339,7 +351,7 @@ def main():
     finally:
         session.stop()
     for text, latency, heard in session.latencies:
-        print("spoken %.2f s after the key: %s  (%s)" % (latency, text, "; ".join(heard)))
+        print("spoken %.2f s after it appeared: %s  (%s)" % (latency, text, "; ".join(heard)))
     print("done in %.1f s" % (time.time() - session.started))
     shutil.rmtree(session.dir, ignore_errors=True)
     return 0
