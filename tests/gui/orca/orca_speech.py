@@ -17,7 +17,7 @@ import tempfile
 import time
 
 HERE = os.path.dirname(os.path.abspath(__file__))
-OUTCOME_WITHIN = 1.0  # seconds from the key to the spoken outcome
+OUTCOME_WITHIN = 1.0  # seconds from an outcome's appearing to its being spoken
 SPEECH_WITHIN = 10.0  # seconds at most for what Orca says as the focus moves
 QUIET_AFTER_OUTCOME = 0.5  # seconds in which nothing may cut a spoken outcome short
 STATUS_TIMER = 7.5  # seconds until the status line goes back to "Ready."
@@ -51,7 +51,7 @@ class Speech:
     """
 
     START = re.compile(rb"^(\d\d):(\d\d):(\d\d\.\d+) - SPEECH OUTPUT: '")
-    END = re.compile(rb"'( voice=\w+)?( ?)\{[^{}]*\}$")
+    END = re.compile(rb"'( voice=\w+)?( ?)\{.*\}$")
 
     def __init__(self, path):
         self.path = path
@@ -158,7 +158,7 @@ class Session:
     def visible(self, title):
         return subprocess.run(
             ["xdotool", "search", "--onlyvisible", "--name", "^%s$" % re.escape(title)],
-            capture_output=True, text=True).stdout.split()
+            capture_output=True, text=True, timeout=10).stdout.split()
 
     def gone(self, title, within=SPEECH_WITHIN):
         deadline = time.time() + within
@@ -177,10 +177,10 @@ class Session:
 
     def focus(self, window):
         """Gives a window the focus, as a window manager would."""
-        subprocess.run(["xdotool", "windowfocus", "--sync", window], check=True)
+        subprocess.run(["xdotool", "windowfocus", "--sync", window], check=True, timeout=10)
 
     def press(self, *keys):
-        subprocess.run(["xdotool", "key", "--delay", "60", *keys], check=True)
+        subprocess.run(["xdotool", "key", "--delay", "60", *keys], check=True, timeout=10)
 
     # --- what Orca says --------------------------------------------------------------------
 
@@ -347,6 +347,8 @@ def main():
     except Failure as failure:
         print("FAIL:", failure)
         print("Orca's debug log:", session.speech.path)
+        with open(os.path.join(session.dir, "orca.out"), errors="replace") as out:
+            print("Orca's own output, last lines:", *out.readlines()[-10:], sep="\n")
         return 1
     finally:
         session.stop()
