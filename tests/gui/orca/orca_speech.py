@@ -123,9 +123,12 @@ class Session:
     # --- processes -------------------------------------------------------------------------
 
     def start(self):
+        # Orca speaks the roles ("push button", "check box") in the user's language.
+        english = dict(os.environ, LC_ALL="C.UTF-8", LANGUAGE="en")
         self.orca = subprocess.Popen(
             ["orca", "--replace", "-u", self.prefs, "--debug-file", self.speech.path],
-            stdout=open(os.path.join(self.dir, "orca.out"), "wb"), stderr=subprocess.STDOUT)
+            stdout=open(os.path.join(self.dir, "orca.out"), "wb"), stderr=subprocess.STDOUT,
+            env=english)
         self.wait_for(["Screen reader on."], within=30, what="Orca to start")
         # The export's folder does not exist here, so its file dialog opens in the working
         # folder, with the offered name: Return saves there, and nothing need be typed.
