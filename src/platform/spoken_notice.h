@@ -16,8 +16,9 @@ class SpokenNotice : public QWidget {
 
     // Spoken as soon as this window is active again: the outcome of a command often comes
     // as a modal dialog closes, and the window system then gives the focus back, which the
-    // screen reader speaks too and which would cut a notice given before it short. A window
-    // that stays inactive for a second (the user went elsewhere) gets it then.
+    // screen reader speaks too and which would cut a notice given before it short. If the
+    // window stays inactive for a second (the user went elsewhere), it is spoken all the same.
+    // A notice given while another waits takes its place.
     void give(const QString& text);
 
   protected:
