@@ -33,23 +33,22 @@ QList<int> ticked(const PatchGrid& grid) {
             patches << i;
     return patches;
 }
-// The patches with the focus ring around them, as the screen shows them: the ring fills the
-// margin around the box; at the grid's edges a header or the edge may hide up to two sides.
+// The patches the screen shows with the focus ring: its colour in the margin on at least two
+// sides of the box (at the grid's edges a header or the edge may hide two).
 QStringList ringed(const PatchGrid& grid) {
     QWidget& window = *grid.window();
     const QImage shot = window.screen()->grabWindow(window.winId()).toImage();
-    const qreal scale = shot.devicePixelRatio();
-    const QColor ring = grid.palette().color(QPalette::Highlight);
+    const auto ring = [&](int x, int y) {
+        return shot.pixelColor(QPoint(x, y) * shot.devicePixelRatio()) ==
+               grid.palette().color(QPalette::Highlight);
+    };
     QStringList patches;
-    for (int i = 0; i < kPatchCount; ++i) {
-        const QRect box(grid.patch(i)->mapTo(&window, QPoint()), grid.patch(i)->size());
-        const QPoint margin[] = {{box.center().x(), box.top() - 1},
-                                 {box.center().x(), box.bottom() + 1},
-                                 {box.left() - 1, box.center().y()},
-                                 {box.right() + 1, box.center().y()}};
-        if (std::ranges::count_if(
-                margin, [&](QPoint p) { return shot.pixelColor(p * scale) == ring; }) >= 2)
-            patches << grid.patch(i)->objectName();
+    for (QCheckBox* box : grid.findChildren<QCheckBox*>()) {
+        const QRect r(box->mapTo(&window, QPoint()), box->size());
+        const int sides = ring(r.center().x(), r.top() - 1) + ring(r.center().x(), r.bottom() + 1) +
+                          ring(r.left() - 1, r.center().y()) + ring(r.right() + 1, r.center().y());
+        if (sides >= 2)
+            patches << box->objectName();
     }
     return patches;
 }
