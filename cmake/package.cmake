@@ -10,6 +10,9 @@ set_property(SOURCE src/command_line.cpp APPEND PROPERTY
 
 install(TARGETS umbrakit RUNTIME DESTINATION .)
 install(FILES README.md LICENSE DESTINATION .)
+if(UMBRAKIT_BUNDLED_FONT) # cmake/fonts.cmake
+    install(FILES packaging/LiberationSans-LICENSE.txt DESTINATION .)
+endif()
 
 if(UNIX AND NOT APPLE)
     # The packed entry starts "umbrakit" from the PATH; "umbrakit --install-desktop-entry"

@@ -78,6 +78,7 @@ tarball="$build/$name.tar.gz"
 [ -f "$tarball" ] || fail "the package target made no $tarball"
 
 expected="$name/LICENSE
+$name/LiberationSans-LICENSE.txt
 $name/README.md
 $name/umbrakit
 $name/umbrakit-256.png
@@ -290,7 +291,7 @@ step "lmList.dat exported through the main window"
 quit "$main"
 until_true 10 not running "$pid" || fail "File, Exit did not end the program"
 left=$(cd "$folder" && ls -A | sort | tr '\n' ' ')
-[ "$left" = "LICENSE README.md config.ini lmList.dat umbrakit umbrakit-256.png umbrakit-32.png umbrakit-48.png umbrakit.desktop " ] ||
+[ "$left" = "LICENSE LiberationSans-LICENSE.txt README.md config.ini lmList.dat umbrakit umbrakit-256.png umbrakit-32.png umbrakit-48.png umbrakit.desktop " ] ||
     fail "the folder holds other files than the package's, config.ini and lmList.dat: $left"
 step "the program ended through File, Exit"
 

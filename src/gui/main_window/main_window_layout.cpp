@@ -7,6 +7,7 @@
 
 #include "gui/main_window/main_window.h"
 #include "gui/main_window/patch_grid.h"
+#include "platform/caption_fit.h"
 #include "platform/classic_font.h"
 #include "platform/classic_frame.h"
 #include "platform/click_check_box.h"
@@ -39,8 +40,8 @@ void MainWindow::buildControls() {
     client->setFixedSize(twips(kClientWidth), twips(kStatusTop));
     setCentralWidget(client);
 
-    titleLabel = place(new QLabel("Umbrakit and lmList.dat Generator", client), "TitleLabel", 15,
-                       0, 4905, 465);
+    titleLabel = place(new QLabel("Umbrakit and lmList.dat Generator", client), "TitleLabel", 15, 0,
+                       4905, 465);
     titleLabel->setAlignment(Qt::AlignCenter);
     titleLabel->setWordWrap(true);
     titleLabel->setFont(labelFont(true));
@@ -60,8 +61,8 @@ void MainWindow::buildControls() {
                                 passNames[pass], 105, 210 + 315 * int(pass), 2220, 225);
 
     executeFrame = place(new ClassicFrame("Execute", client), "Frame2", 2625, 5880, 2325, 1170);
-    exportButton = place(new QPushButton("&Export lmList.dat", executeFrame), "lmList_Button",
-                         210, 210, 1995, 375);
+    exportButton = place(new QPushButton("&Export lmList.dat", executeFrame), "lmList_Button", 210,
+                         210, 1995, 375);
     runLightingButton =
         place(new QPushButton("Run &Lighting", executeFrame), "Go_Button", 210, 700, 2010, 375);
     // Fusion draws a button in its palette colour on every platform; the native styles may not.
@@ -78,6 +79,7 @@ void MainWindow::buildControls() {
 
     statusTimer = new FormTimer(kStatusInterval, this);
     statusTimer->setObjectName("Timer1");
+    fitCaptions(this);
 }
 
 void MainWindow::buildMenu() {

@@ -1,0 +1,71 @@
+#include "platform/caption_fit.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QStyleOptionButton>
+
+namespace umbrakit {
+
+namespace {
+constexpr int kNarrowestStretch = 80;
+constexpr double kSmallestPointSize = 6;
+constexpr double kPointStep = 0.25;
+
+QString shownText(QString caption) {
+    caption.replace("&&", "\x01").remove('&').replace("\x01", "&");
+    return caption;
+}
+
+// The width the style leaves a button's text: inside a push button's frame and default-button
+// indicator, beside a check box's indicator.
+int textRoomOf(const QAbstractButton* button) {
+    QStyleOptionButton option;
+    option.initFrom(button);
+    option.text = button->text();
+    auto* push = qobject_cast<const QPushButton*>(button);
+    if (push && push->autoDefault())
+        option.features |= QStyleOptionButton::AutoDefaultButton;
+    const auto room = push ? QStyle::SE_PushButtonContents : QStyle::SE_CheckBoxContents;
+    return button->style()->subElementRect(room, &option, button).width();
+}
+
+bool fits(const QWidget* control) {
+    if (auto* button = qobject_cast<const QAbstractButton*>(control))
+        return button->fontMetrics().horizontalAdvance(shownText(button->text())) <=
+               textRoomOf(button);
+    if (auto* label = qobject_cast<const QLabel*>(control); label && label->wordWrap())
+        return label->heightForWidth(label->width()) <= label->height();
+    return control->sizeHint().width() <= control->width();
+}
+
+bool hasCaption(const QWidget* control) {
+    if (auto* button = qobject_cast<const QAbstractButton*>(control))
+        return !button->text().isEmpty();
+    auto* label = qobject_cast<const QLabel*>(control);
+    return label && !label->text().isEmpty();
+}
+
+// Narrower first, which keeps the caption's height; smaller only where that is not enough.
+void fitCaption(QWidget* control) {
+    QFont font = control->font();
+    for (int stretch = 99; !fits(control) && stretch >= kNarrowestStretch; --stretch) {
+        font.setStretch(stretch);
+        control->setFont(font);
+    }
+    for (double size = font.pointSizeF() - kPointStep; !fits(control) && size >= kSmallestPointSize;
+         size -= kPointStep) {
+        font.setPointSizeF(size);
+        control->setFont(font);
+    }
+}
+} // namespace
+
+void fitCaptions(QWidget* window) {
+    for (QWidget* control : window->findChildren<QWidget*>())
+        if (hasCaption(control))
+            fitCaption(control);
+}
+
+} // namespace umbrakit
