@@ -40,8 +40,8 @@ void MainWindow::buildControls() {
     client->setFixedSize(twips(kClientWidth), twips(kStatusTop));
     setCentralWidget(client);
 
-    titleLabel = place(new QLabel("Umbrakit and lmList.dat Generator", client), "TitleLabel", 15, 0,
-                       4905, 465);
+    titleLabel = place(new QLabel("Umbrakit and lmList.dat Generator", client), "TitleLabel", 15,
+                       0, 4905, 465);
     titleLabel->setAlignment(Qt::AlignCenter);
     titleLabel->setWordWrap(true);
     titleLabel->setFont(labelFont(true));
@@ -61,8 +61,8 @@ void MainWindow::buildControls() {
                                 passNames[pass], 105, 210 + 315 * int(pass), 2220, 225);
 
     executeFrame = place(new ClassicFrame("Execute", client), "Frame2", 2625, 5880, 2325, 1170);
-    exportButton = place(new QPushButton("&Export lmList.dat", executeFrame), "lmList_Button", 210,
-                         210, 1995, 375);
+    exportButton = place(new QPushButton("&Export lmList.dat", executeFrame), "lmList_Button",
+                         210, 210, 1995, 375);
     runLightingButton =
         place(new QPushButton("Run &Lighting", executeFrame), "Go_Button", 210, 700, 2010, 375);
     // Fusion draws a button in its palette colour on every platform; the native styles may not.

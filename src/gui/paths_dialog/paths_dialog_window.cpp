@@ -21,7 +21,8 @@ constexpr int kClientWidth = 6630;
 constexpr int kClientHeight = 2970;
 
 // A box's label, at the left of its row; the box is spoken by its caption.
-void label(QWidget* box, const QString& caption, const char* name, int top, int width, int height) {
+void label(QWidget* box, const QString& caption, const char* name, int top, int width,
+           int height) {
     QLabel* text = place(new QLabel(caption, box->parentWidget()), name, 105, top, width, height);
     text->setFont(labelFont());
     text->setFocusPolicy(Qt::NoFocus);
