@@ -50,8 +50,15 @@ if(BUILD_TESTING AND UNIX AND NOT APPLE)
     <cachedir>${CMAKE_CURRENT_BINARY_DIR}/fonts/${tag}/cache</cachedir>
 </fontconfig>
 ")
-        add_test(NAME caption_fit_${tag} COMMAND caption_fit_qtest)
-        set_tests_properties(caption_fit_${tag} PROPERTIES LABELS fonts ENVIRONMENT
-            "QT_QPA_PLATFORM=offscreen;FONTCONFIG_FILE=${config};CAPTION_FIT_FAMILY=${family}")
+        # At 100% and at 200%, where text is laid out unhinted and may run wider.
+        foreach(scale 1 2)
+            set(name caption_fit_${tag})
+            if(scale EQUAL 2)
+                set(name caption_fit_${tag}_200)
+            endif()
+            add_test(NAME ${name} COMMAND caption_fit_qtest)
+            set_tests_properties(${name} PROPERTIES LABELS fonts ENVIRONMENT
+                "QT_QPA_PLATFORM=offscreen;QT_SCALE_FACTOR=${scale};FONTCONFIG_FILE=${config};CAPTION_FIT_FAMILY=${family}")
+        endforeach()
     endforeach()
 endif()

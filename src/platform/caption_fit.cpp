@@ -1,10 +1,13 @@
 #include "platform/caption_fit.h"
 
 #include <QAbstractButton>
+#include <QFontMetricsF>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <algorithm>
+#include <cmath>
 
 namespace umbrakit {
 
@@ -18,8 +21,22 @@ QString shownText(QString caption) {
     return caption;
 }
 
-// The width the style leaves a button's text: inside a push button's frame and default-button
-// indicator, beside a check box's indicator.
+// How far the control shows from its left edge: a neighbour in the same row, stacked above it,
+// may cover its right end (the classic layouts let neighbours overlap by a pixel).
+int shownWidth(const QWidget* control) {
+    int shown = control->width();
+    const QObjectList& siblings = control->parentWidget()->children();
+    for (qsizetype i = siblings.indexOf(control) + 1; i < siblings.size(); ++i) {
+        auto* above = qobject_cast<const QWidget*>(siblings[i]);
+        if (above && !above->isHidden() && !above->isWindow() && above->x() > control->x() &&
+            above->geometry().contains(above->x(), control->geometry().center().y()))
+            shown = std::min(shown, above->x() - control->x());
+    }
+    return shown;
+}
+
+// The width the style leaves a button's text where it shows: inside a push button's frame and
+// default-button indicator, beside a check box's indicator.
 int textRoomOf(const QAbstractButton* button) {
     QStyleOptionButton option;
     option.initFrom(button);
@@ -28,16 +45,18 @@ int textRoomOf(const QAbstractButton* button) {
     if (push && push->autoDefault())
         option.features |= QStyleOptionButton::AutoDefaultButton;
     const auto room = push ? QStyle::SE_PushButtonContents : QStyle::SE_CheckBoxContents;
-    return button->style()->subElementRect(room, &option, button).width();
+    const QRect contents = button->style()->subElementRect(room, &option, button);
+    return std::min(contents.right() + 1, shownWidth(button)) - contents.left();
 }
 
 bool fits(const QWidget* control) {
     if (auto* button = qobject_cast<const QAbstractButton*>(control))
-        return button->fontMetrics().horizontalAdvance(shownText(button->text())) <=
+        return std::ceil(
+                   QFontMetricsF(button->font()).horizontalAdvance(shownText(button->text()))) <=
                textRoomOf(button);
     if (auto* label = qobject_cast<const QLabel*>(control); label && label->wordWrap())
-        return label->heightForWidth(label->width()) <= label->height();
-    return control->sizeHint().width() <= control->width();
+        return label->heightForWidth(shownWidth(label)) <= label->height();
+    return control->sizeHint().width() <= shownWidth(control);
 }
 
 bool hasCaption(const QWidget* control) {

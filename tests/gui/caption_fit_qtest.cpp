@@ -52,13 +52,28 @@ QRect inkOf(const QFontMetrics& metrics, const QRect& room, int flags, const QSt
     return QRect(lines.left(), baseline + ink.top(), lines.width(), ink.height());
 }
 
+// The part of the control that no neighbour in its row, stacked above it, covers.
+QRegion uncovered(const QWidget* control) {
+    QRegion shown(control->rect());
+    const QObjectList& siblings = control->parentWidget()->children();
+    for (qsizetype i = siblings.indexOf(control) + 1; i < siblings.size(); ++i) {
+        auto* above = qobject_cast<const QWidget*>(siblings[i]);
+        const int middle = control->geometry().center().y();
+        if (above && !above->isHidden() && !above->isWindow() && above->y() <= middle &&
+            above->geometry().bottom() >= middle)
+            shown -= above->geometry().translated(-control->pos());
+    }
+    return shown;
+}
+
 // One line for each caption of the window (and its menus) that does not fit its room.
 QStringList cutCaptions(QWidget* window) {
     QStringList cut;
     auto check = [&cut](const QWidget* w, const QString& text, const QRect& room, int flags,
                         const QRect& bounds) {
         const QRect ink = inkOf(w->fontMetrics(), room, flags | Qt::TextShowMnemonic, shown(text));
-        if (!bounds.contains(ink) || ink.width() > room.width())
+        const QRegion visible = uncovered(w).intersected(bounds);
+        if (!QRegion(ink).subtracted(visible).isEmpty() || ink.width() > room.width())
             cut << QString("%1 \"%2\" needs %3x%4, has %5x%6 (%7)")
                        .arg(w->objectName(), text)
                        .arg(ink.width())
