@@ -28,6 +28,9 @@ target_sources(umbrakit_gui PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/umbrakit_fonts.q
 
 # Every caption checked under one font family at a time: fontconfig is given only that
 # family's folder, so it is the system's whole choice (label "fonts").
+if(TARGET caption_fit_qtest AND UMBRAKIT_BUNDLED_FONT)
+    target_compile_definitions(caption_fit_qtest PRIVATE UMBRAKIT_BUNDLED_FONT)
+endif()
 if(BUILD_TESTING AND UNIX AND NOT APPLE)
     set(fit_families
         "DejaVu Sans|dejavu|/usr/share/fonts/truetype/dejavu"
