@@ -35,7 +35,8 @@ if(BUILD_TESTING AND UNIX AND NOT APPLE)
     set(fit_families
         "DejaVu Sans|dejavu|/usr/share/fonts/truetype/dejavu"
         "Noto Sans|noto|/usr/share/fonts/truetype/noto"
-        "Liberation Sans|liberation|/usr/share/fonts/truetype/liberation2")
+        "Liberation Sans|liberation|/usr/share/fonts/truetype/liberation2"
+        "Cantarell|cantarell|/usr/share/fonts/opentype/cantarell")
     foreach(entry ${fit_families})
         string(REPLACE "|" ";" entry "${entry}")
         list(GET entry 0 family)

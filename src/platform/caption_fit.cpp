@@ -7,7 +7,6 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <algorithm>
-#include <cmath>
 
 namespace umbrakit {
 
@@ -15,11 +14,6 @@ namespace {
 constexpr int kNarrowestStretch = 80;
 constexpr double kSmallestPointSize = 6;
 constexpr double kPointStep = 0.25;
-
-QString shownText(QString caption) {
-    caption.replace("&&", "\x01").remove('&').replace("\x01", "&");
-    return caption;
-}
 
 // How far the control shows from its left edge: a neighbour in the same row, stacked above it,
 // may cover its right end (the classic layouts let neighbours overlap by a pixel).
@@ -35,9 +29,9 @@ int shownWidth(const QWidget* control) {
     return shown;
 }
 
-// The width the style leaves a button's text where it shows: inside a push button's frame and
-// default-button indicator, beside a check box's indicator.
-int textRoomOf(const QAbstractButton* button) {
+// The room the style leaves a button's text: inside a push button's frame and default-button
+// indicator, beside a check box's indicator.
+QRect textRoomOf(const QAbstractButton* button) {
     QStyleOptionButton option;
     option.initFrom(button);
     option.text = button->text();
@@ -45,18 +39,28 @@ int textRoomOf(const QAbstractButton* button) {
     if (push && push->autoDefault())
         option.features |= QStyleOptionButton::AutoDefaultButton;
     const auto room = push ? QStyle::SE_PushButtonContents : QStyle::SE_CheckBoxContents;
-    const QRect contents = button->style()->subElementRect(room, &option, button);
-    return std::min(contents.right() + 1, shownWidth(button)) - contents.left();
+    return button->style()->subElementRect(room, &option, button);
+}
+
+// Whether the text, laid out in the room as it is drawn (fractions kept: at 150% or 200% text is
+// laid out unhinted; a last glyph's overhang counted), stays inside the room where it shows.
+bool fitsRoom(const QWidget* control, const QString& text, const QRect& room, int flags) {
+    const QRectF box = QFontMetricsF(control->font()).boundingRect(QRectF(room), flags, text);
+    return box.left() >= room.left() &&
+           box.right() <= std::min(room.x() + room.width(), shownWidth(control));
 }
 
 bool fits(const QWidget* control) {
-    if (auto* button = qobject_cast<const QAbstractButton*>(control))
-        return std::ceil(
-                   QFontMetricsF(button->font()).horizontalAdvance(shownText(button->text()))) <=
-               textRoomOf(button);
-    if (auto* label = qobject_cast<const QLabel*>(control); label && label->wordWrap())
+    if (auto* button = qobject_cast<const QAbstractButton*>(control)) {
+        const int align = qobject_cast<const QPushButton*>(button)
+                              ? Qt::AlignCenter
+                              : Qt::AlignLeft | Qt::AlignVCenter;
+        return fitsRoom(button, button->text(), textRoomOf(button), align | Qt::TextShowMnemonic);
+    }
+    auto* label = qobject_cast<const QLabel*>(control);
+    if (label->wordWrap())
         return label->heightForWidth(shownWidth(label)) <= label->height();
-    return control->sizeHint().width() <= shownWidth(control);
+    return fitsRoom(label, label->text(), label->contentsRect(), int(label->alignment()));
 }
 
 bool hasCaption(const QWidget* control) {
