@@ -75,13 +75,10 @@ QStringList cutCaptions(QWidget* window) {
         const QRect ink = inkOf(w->fontMetrics(), room, flags | Qt::TextShowMnemonic, shown(text));
         const QRegion visible = uncovered(w).intersected(bounds);
         if (!QRegion(ink).subtracted(visible).isEmpty() || ink.width() > room.width())
-            cut << QString("%1 \"%2\" needs %3x%4, has %5x%6 (%7)")
-                       .arg(w->objectName(), text)
-                       .arg(ink.width())
-                       .arg(ink.height())
-                       .arg(room.width())
-                       .arg(bounds.height())
-                       .arg(QFontInfo(w->font()).family());
+            cut << QString("%1 \"%2\" needs %3x%4, has %5 (%6)")
+                       .arg(w->objectName(), text, QString::number(ink.width()),
+                            QString::number(ink.height()), QString::number(room.width()),
+                            QFontInfo(w->font()).family());
     };
     for (QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
         if (button->text().isEmpty())
