@@ -16,8 +16,15 @@ fail() {
 }
 
 started=$(date +%s)
+failure_picture="$(dirname "$program")/screenshots_failure.png"
+rm -f "$failure_picture"
 bash "$source/tools/screenshots" --program "$program" "$work/images" >"$work/made" 2>"$work/log" ||
-    { cat "$work/log"; fail "tools/screenshots failed"; }
+    {
+        cat "$work/log"
+        cp "$work/images/screenshots_failure.png" "$failure_picture" 2>/dev/null &&
+            echo "the screen at the failure: $failure_picture"
+        fail "tools/screenshots failed"
+    }
 echo "tools/screenshots took $(($(date +%s) - started)) s"
 
 # Every picture that docs/user-guide.md shows, and the guide shows no other.
