@@ -86,6 +86,15 @@ box-run-anyway.png reported
 box-read-only.png reported
 EOF
 
+# The committed pictures of the windows the program lays out are not behind the windows: a
+# window of another size means pictures of an older layout.
+for picture in main-window.png main-window-ticked.png main-window-running.png \
+    status-incomplete.png paths-dialog.png about.png; do
+    committed=$(identify -format '%wx%h' "$source/docs/images/$picture")
+    [ "$committed" = "$(size_of "$picture")" ] ||
+        fail "docs/images/$picture is $committed, but the window is now $(size_of "$picture"): run bash tools/screenshots"
+done
+
 # The pictures show the window where the program lays it out: "Run Lighting" is the one green
 # button, 14 pixels into the "Execute" frame (at 175, 392) and 47 down.
 green_at() {
