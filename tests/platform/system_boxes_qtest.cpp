@@ -1,9 +1,10 @@
 // The real message box, answered by clicking it, and the real disk operations on a temporary
-// folder. The real file dialog is driven by the package test.
+// folder, their system calls watched. The real file dialog is driven by the package test.
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <map>
 
 #include "platform/disk_file_ops.h"
 #include "platform/qt_dialogs.h"
@@ -19,6 +20,48 @@ template <typename Window> void whenShown(std::function<void(Window*)> answer) {
         answer(qobject_cast<Window*>(QApplication::activeModalWidget()));
     });
 }
+// The real system calls, each written down as it is made ("flush config.tmp"); the one named
+// in `failing` fails instead.
+class WatchedSystemFiles : public SystemFiles {
+  public:
+    QStringList calls;
+    QString failing;
+
+    SystemResult create(const std::filesystem::path& path, Handle& file) override {
+        return step("create", path, [&] {
+            const SystemResult result = systemFiles().create(path, file);
+            names_[file] = path;
+            return result;
+        });
+    }
+    SystemResult write(Handle file, std::string_view bytes) override {
+        return step("write", names_[file], [&] { return systemFiles().write(file, bytes); });
+    }
+    SystemResult flush(Handle file) override {
+        return step("flush", names_[file], [&] { return systemFiles().flush(file); });
+    }
+    SystemResult close(Handle file) override {
+        return step("close", names_[file], [&] { return systemFiles().close(file); });
+    }
+    SystemResult rename(const std::filesystem::path& from,
+                        const std::filesystem::path& to) override {
+        return step("rename", from, [&] { return systemFiles().rename(from, to); });
+    }
+    void flushFolder(const std::filesystem::path& folder) override {
+        step("flushFolder", folder, [&] {
+            systemFiles().flushFolder(folder);
+            return SystemResult{};
+        });
+    }
+
+  private:
+    template <typename Call>
+    SystemResult step(const QString& what, const std::filesystem::path& path, Call call) {
+        calls << what + ' ' + QString::fromStdString(path.filename().string());
+        return what == failing ? SystemResult{false, "Injected failure."} : call();
+    }
+    std::map<Handle, std::filesystem::path> names_;
+};
 } // namespace
 
 class SystemBoxesTest : public QObject {
@@ -72,6 +115,38 @@ class SystemBoxesTest : public QObject {
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{"config.ini"});
         QByteArray bytes;
         QVERIFY(disk.read(config, bytes) && bytes == "kept");
+    }
+
+    // The new file is on the disk, then put in place, then its folder is: all before the save
+    // is reported done. A step that fails leaves config.ini as it was.
+    void aSaveIsOnTheDiskBeforeItIsReportedDone() {
+        const QStringList written{"create config.tmp", "write config.tmp", "flush config.tmp",
+                                  "close config.tmp"};
+        const struct {
+            const char* failing;
+            QStringList calls;
+        } cases[] = {{"", written + QStringList{"rename config.tmp", "flushFolder"}},
+                     {"write", {"create config.tmp", "write config.tmp", "close config.tmp"}},
+                     {"flush", written},
+                     {"rename", written + QStringList{"rename config.tmp"}}};
+        for (const auto& [failing, calls] : cases) {
+            QTemporaryDir dir;
+            const QString config = dir.filePath("config.ini"), temp = dir.filePath("config.tmp");
+            DiskFileOps real;
+            QVERIFY(replaceWhole(real, config, temp, "old"));
+            WatchedSystemFiles system;
+            system.failing = failing;
+            DiskFileOps disk(system);
+            const bool done = bool(replaceWhole(disk, config, temp, "new"));
+            QStringList expected = calls;
+            if (expected.last() == "flushFolder")
+                expected.last() += ' ' + QFileInfo(dir.path()).fileName();
+            QCOMPARE(system.calls, expected);
+            QCOMPARE(done, QString(failing).isEmpty());
+            QByteArray bytes;
+            QVERIFY(disk.read(config, bytes) && bytes == (done ? "new" : "old"));
+            QVERIFY(!QFile::exists(temp));
+        }
     }
 };
 

@@ -1,5 +1,6 @@
 // The main window as the user meets it: the patch grid under every world size, the three
 // passes kept in step whichever way they change, the status line's timer, and the end.
+#include <QMenuBar>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
@@ -74,11 +75,20 @@ class MainWindowTest : public QObject {
             for (int route = 0; route < 10; ++route) {
                 QSignalSpy clicks(box, &ClickCheckBox::Click);
                 switch (route / 2) {
-                case 0: clickBox(box); break;
-                case 1: QTest::keyClick(box, Qt::Key_Space); break;
-                case 2: w.passEntries[int(pass)]->trigger(); break;
-                case 3: box->setValue(1 - box->Value()); break;
-                default: box->setValue(box->Value());
+                case 0:
+                    clickBox(box);
+                    break;
+                case 1:
+                    QTest::keyClick(box, Qt::Key_Space);
+                    break;
+                case 2:
+                    w.passEntries[int(pass)]->trigger();
+                    break;
+                case 3:
+                    box->setValue(1 - box->Value());
+                    break;
+                default:
+                    box->setValue(box->Value());
                 }
                 const bool changes = route < 8;
                 on[pass] = on[pass] != changes;
@@ -90,6 +100,45 @@ class MainWindowTest : public QObject {
             }
             box->setValue(1); // left on while the next is tried
             on[pass] = true;
+        }
+    }
+
+    // Found by their captions, as a user finds them: each entry of Run, Options ticks itself,
+    // moves the box of its pass and no other, and go.bat then runs that pass alone.
+    void eachPassEntrySwitchesThePassItNames() {
+        TestApp app;
+        MainWindow& w = *app.window;
+        app.setPaths(U"D:\\BF1942", U"Level", U"BF1942");
+        const struct {
+            const char *entry, *box, *engineOption;
+        } passes[] = {
+            {"Generate &TerrainShadows", "Generate &TerrainShadows", "+traceTerrainShadows"},
+            {"&Merge TerrainShadows", "&Merge TerrainShadows", "+mergeTerrainShadows"},
+            {"&Generate ObjectShadows", "Generate &ObjectShadows", "+traceObjectShadows"}};
+        QMenu* options = w.menuBar()->findChild<QMenu*>("menuRunOption");
+        QVERIFY(options && options->title() == "&Options");
+        QList<QCheckBox*> boxes;
+        for (const auto& pass : passes)
+            for (QCheckBox* box : w.findChildren<QCheckBox*>())
+                if (box->text() == pass.box)
+                    boxes << box;
+        QCOMPARE(boxes.size(), 3);
+        for (const auto& pass : passes) {
+            QAction* entry = nullptr;
+            for (QAction* action : options->actions())
+                if (action->text() == pass.entry)
+                    entry = action;
+            QVERIFY2(entry, pass.entry);
+            entry->trigger();
+            for (QAction* action : options->actions())
+                QCOMPARE(action->isChecked(), action == entry);
+            for (QCheckBox* box : boxes)
+                QCOMPARE(box->isChecked(), box->text() == pass.box);
+            QTest::mouseClick(w.runLightingButton, Qt::LeftButton);
+            const QList<QByteArray> lines = app.bytesOf("go.bat").split('\n');
+            QCOMPARE(lines.size(), 4); // the folder and drive lines, the pass, nothing behind
+            QVERIFY2(lines[2].contains(pass.engineOption), lines[2].constData());
+            entry->trigger();
         }
     }
 
