@@ -1,13 +1,17 @@
 // Every file operation of every command that writes a file fails in turn, until a run
 // completes. After each failure the user has been told, the kept files are byte for byte what
-// they were, no temporary file is left and the windows are as before.
+// they were, no temporary file is left and the windows are as before. Then the user goes on
+// working after failures, and nothing saved is lost.
 #include <QDir>
 #include <QFileInfo>
 #include <QtTest>
 #include <functional>
 
+#include "core/config_walk.h"
+#include "core/text_lines.h"
 #include "gui/main_window/patch_grid.h"
 #include "platform/form_timer.h"
+#include "platform/qt_text.h"
 #include "support/dialog_driver.h"
 
 using namespace umbrakit;
@@ -91,6 +95,21 @@ QStringList problemsAfter(TestApp& app, const Command& c, bool failed) {
         found << "state " + state;
     return found;
 }
+// The records of config.ini as the readers see them: each name and the level its row loads.
+using Records = QList<QPair<QString, QString>>;
+Records recordsIn(const QByteArray& bytes) {
+    const std::vector<std::string> lines = splitLines(bytes.toStdString());
+    Records records;
+    for (const std::string& name : readSavedNames(lines)) {
+        const auto level = findRecordValues(lines, name).values[int(RecordKey::LevelName)];
+        records.append({QString::fromStdString(name), QString::fromStdString(level.value_or("?"))});
+    }
+    return records;
+}
+
+void removeName(Records& records, const QString& name) {
+    records.removeIf([&name](const auto& record) { return record.first == name; });
+}
 } // namespace
 
 class FaultSweepTest : public QObject {
@@ -111,11 +130,13 @@ class FaultSweepTest : public QObject {
                 app.files.failAt = failAt;
                 c.run(app);
                 const bool failed = app.files.operations >= failAt;
-                if (const QStringList problems = problemsAfter(app, c, failed); !problems.isEmpty()) {
+                if (const QStringList problems = problemsAfter(app, c, failed);
+                    !problems.isEmpty()) {
                     ++failures;
-                    qWarning("%s, %s: %s", c.name,
-                             qPrintable(failed ? app.files.journal.value(failAt - 1) : "no failure"),
-                             qPrintable(problems.join("; ")));
+                    qWarning(
+                        "%s, %s: %s", c.name,
+                        qPrintable(failed ? app.files.journal.value(failAt - 1) : "no failure"),
+                        qPrintable(problems.join("; ")));
                 }
                 if (!failed)
                     break;
@@ -124,6 +145,83 @@ class FaultSweepTest : public QObject {
             qInfo("%s: %d injection points, %d failures", c.name, points, failures);
             QVERIFY(points >= c.fewestPoints);
             QCOMPARE(failures, 0);
+        }
+    }
+
+    // After a failed Save or Delete the user goes on: saves, deletes, loads, OK. Whatever was
+    // saved is never lost, and after every step the list shows the names of config.ini, in
+    // its order. A step is "[fault:]command [name [level]]", the fault a full disk, a locked or
+    // a read-only config.ini, or one that cannot be read.
+    void theUserGoesOnAfterAFailure() {
+        const char* const sequences[] = {
+            "full:save New N1, save New N2, load New, delete Wake, ok, load New",
+            "locked:delete Midway, delete Midway, save Midway M2, readonly:save Berlin B2, "
+            "load Berlin, ok",
+            "readonly:delete Wake, save Extra X, full:delete Extra, load Wake, delete Extra, ok",
+            "unreadable:save Wake W2, load Wake, save Wake W3, locked:save Zulu Z, delete Berlin",
+            "load Midway, full:save Midway M9, load Midway, ok, locked:save Midway M3, "
+            "delete Midway, save Midway M4",
+            "unreadable:open, save New N, full:save Wake W2, load Wake, ok",
+            "locked:save A A1, readonly:delete Berlin, full:save B B1, unreadable:delete Wake, "
+            "save C C1, load Midway, ok"};
+        const QMap<QString, QString> failingOperation{
+            {"full", "writeNew"}, {"locked", "renameOver"}, {"unreadable", "read"}};
+        for (const char* sequence : sequences) {
+            TestApp app;
+            app.setPaths(U"C:\\BF", U"Current", U"BF1942");
+            app.write("config.ini", kWake + kMidway + kBerlin);
+            const QString config = app.path("config.ini");
+            Records saved = recordsIn(app.bytesOf("config.ini"));
+            for (const QString& step : QString(sequence).split(", ")) {
+                const QString fault = step.contains(':') ? step.section(':', 0, 0) : QString();
+                const QStringList words = step.section(':', -1).split(' ');
+                const QString command = words[0], name = words.value(1);
+                const auto injectFault = [&] {
+                    app.files.failNext = failingOperation.value(fault);
+                    if (fault == "readonly")
+                        QFile::setPermissions(config, QFile::ReadOwner);
+                };
+                const qsizetype boxes = app.dialogs.boxes.size();
+                if (command == "open")
+                    injectFault();
+                PathsDialogWindow& w = openPaths(app);
+                Records after = saved;
+                const int row = int(rowsOf(w.savedList).indexOf(name));
+                if (command == "save") {
+                    type(w.nameBox, name);
+                    type(w.levelBox, words[2]);
+                    injectFault();
+                    click(w.saveButton);
+                    removeName(after, name);
+                    after.append({name, words[2]});
+                } else if (command == "delete") {
+                    chooseRow(w.savedList, row);
+                    injectFault();
+                    click(w.deleteButton);
+                    removeName(after, name);
+                } else if (command == "load") {
+                    chooseRow(w.savedList, row);
+                    QCOMPARE(w.levelBox->text(), saved[row - 1].second);
+                } else if (command == "ok") {
+                    const QString shown = w.levelBox->text();
+                    click(w.okButton);
+                    QCOMPARE(toQString(app.window->configuration().levelName), shown);
+                }
+                app.files.failNext.clear();
+                QFile::setPermissions(config, QFile::ReadOwner | QFile::WriteOwner);
+                const QString where = QString(sequence) + ": after " + step;
+                QVERIFY2(app.dialogs.boxes.size() == boxes + (fault.isEmpty() ? 0 : 1),
+                         qPrintable(where));
+                if (fault.isEmpty())
+                    saved = after;
+                QVERIFY2(recordsIn(app.bytesOf("config.ini")) == saved, qPrintable(where));
+                QStringList listed{"(Current)"};
+                if (fault != "unreadable" || command != "open") // only what could be read
+                    for (const auto& record : saved)
+                        listed << record.first;
+                QVERIFY2(rowsOf(openPaths(app).savedList) == listed, qPrintable(where));
+                QVERIFY2(!QFile::exists(app.path("config.tmp")), qPrintable(where));
+            }
         }
     }
 };
