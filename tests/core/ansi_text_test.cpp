@@ -63,6 +63,10 @@ TEST_CASE("Windows-1252 names the first character without a byte") {
     CHECK(firstUnwritable(U"Level\u0085\u0080", kWestern) == U'\u0085');
     CHECK_FALSE(firstUnwritable(U"D:\\Spiele\\Über", kWestern));
     CHECK(toAnsi(U"", kWestern) == "");
+    // A message names a character that shows nothing by its number.
+    CHECK(characterForMessage(U'\u0085') == U"U+0085");
+    CHECK(characterForMessage(U'\u200B') == U"U+200B");
+    CHECK(characterForMessage(U'Ж') == U"Ж");
 }
 
 TEST_CASE("a system whose ANSI code page is UTF-8") {
