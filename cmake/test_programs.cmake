@@ -7,7 +7,5 @@ if(TARGET system_launcher_qtest)
 endif()
 
 # The program itself, started with options as a user types them.
-if(TARGET command_line_qtest)
-    target_compile_definitions(command_line_qtest PRIVATE UMBRAKIT_PROGRAM="$<TARGET_FILE:umbrakit>")
-    add_dependencies(command_line_qtest umbrakit)
-endif()
+add_test(NAME command_line
+         COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/tests/command_line_test.sh $<TARGET_FILE:umbrakit>)
