@@ -24,43 +24,40 @@ template <typename Window> void whenShown(std::function<void(Window*)> answer) {
 // in `failing` fails instead.
 class WatchedSystemFiles : public SystemFiles {
   public:
+    using Path = std::filesystem::path;
     QStringList calls;
     QString failing;
 
-    SystemResult create(const std::filesystem::path& path, Handle& file) override {
+    SystemResult create(const Path& path, Handle& file) override {
         return step("create", path, [&] {
-            const SystemResult result = systemFiles().create(path, file);
+            const SystemResult result = real_.create(path, file);
             names_[file] = path;
             return result;
         });
     }
-    SystemResult write(Handle file, std::string_view bytes) override {
-        return step("write", names_[file], [&] { return systemFiles().write(file, bytes); });
+    SystemResult write(Handle f, std::string_view bytes) override {
+        return step("write", names_[f], [&] { return real_.write(f, bytes); });
     }
-    SystemResult flush(Handle file) override {
-        return step("flush", names_[file], [&] { return systemFiles().flush(file); });
+    SystemResult flush(Handle f) override {
+        return step("flush", names_[f], [&] { return real_.flush(f); });
     }
-    SystemResult close(Handle file) override {
-        return step("close", names_[file], [&] { return systemFiles().close(file); });
+    SystemResult close(Handle f) override {
+        return step("close", names_[f], [&] { return real_.close(f); });
     }
-    SystemResult rename(const std::filesystem::path& from,
-                        const std::filesystem::path& to) override {
-        return step("rename", from, [&] { return systemFiles().rename(from, to); });
+    SystemResult rename(const Path& from, const Path& to) override {
+        return step("rename", from, [&] { return real_.rename(from, to); });
     }
-    void flushFolder(const std::filesystem::path& folder) override {
-        step("flushFolder", folder, [&] {
-            systemFiles().flushFolder(folder);
-            return SystemResult{};
-        });
+    void flushFolder(const Path& folder) override {
+        step("flushFolder", folder, [&] { return real_.flushFolder(folder), SystemResult{}; });
     }
 
   private:
-    template <typename Call>
-    SystemResult step(const QString& what, const std::filesystem::path& path, Call call) {
+    SystemResult step(const QString& what, const Path& path, auto call) {
         calls << what + ' ' + QString::fromStdString(path.filename().string());
         return what == failing ? SystemResult{false, "Injected failure."} : call();
     }
-    std::map<Handle, std::filesystem::path> names_;
+    SystemFiles& real_ = systemFiles();
+    std::map<Handle, Path> names_;
 };
 } // namespace
 

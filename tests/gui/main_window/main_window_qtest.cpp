@@ -1,6 +1,6 @@
 // The main window as the user meets it: the patch grid under every world size, the three
 // passes kept in step whichever way they change, the status line's timer, and the end.
-#include <QMenuBar>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
@@ -109,36 +109,27 @@ class MainWindowTest : public QObject {
         TestApp app;
         MainWindow& w = *app.window;
         app.setPaths(U"D:\\BF1942", U"Level", U"BF1942");
-        const struct {
-            const char *entry, *box, *engineOption;
-        } passes[] = {
+        const char* const passes[][3] = {
             {"Generate &TerrainShadows", "Generate &TerrainShadows", "+traceTerrainShadows"},
             {"&Merge TerrainShadows", "&Merge TerrainShadows", "+mergeTerrainShadows"},
             {"&Generate ObjectShadows", "Generate &ObjectShadows", "+traceObjectShadows"}};
-        QMenu* options = w.menuBar()->findChild<QMenu*>("menuRunOption");
-        QVERIFY(options && options->title() == "&Options");
-        QList<QCheckBox*> boxes;
-        for (const auto& pass : passes)
-            for (QCheckBox* box : w.findChildren<QCheckBox*>())
-                if (box->text() == pass.box)
-                    boxes << box;
-        QCOMPARE(boxes.size(), 3);
-        for (const auto& pass : passes) {
-            QAction* entry = nullptr;
-            for (QAction* action : options->actions())
-                if (action->text() == pass.entry)
-                    entry = action;
-            QVERIFY2(entry, pass.entry);
-            entry->trigger();
-            for (QAction* action : options->actions())
-                QCOMPARE(action->isChecked(), action == entry);
-            for (QCheckBox* box : boxes)
-                QCOMPARE(box->isChecked(), box->text() == pass.box);
+        const QList<QAction*> entries = w.findChild<QMenu*>("menuRunOption")->actions();
+        const QList<QCheckBox*> boxes = w.findChildren<QCheckBox*>();
+        for (const auto& [entryCaption, boxCaption, engineOption] : passes) {
+            const auto entry = std::ranges::find(entries, entryCaption, &QAction::text);
+            QVERIFY2(entry != entries.end(), entryCaption);
+            (*entry)->trigger();
+            for (QAction* other : entries)
+                QCOMPARE(other->isChecked(), other == *entry);
+            QCOMPARE(std::ranges::count_if(boxes, &QCheckBox::isChecked), 1);
+            QVERIFY2(std::ranges::find(boxes, boxCaption, &QCheckBox::text) != boxes.end() &&
+                         (*std::ranges::find(boxes, boxCaption, &QCheckBox::text))->isChecked(),
+                     boxCaption);
             QTest::mouseClick(w.runLightingButton, Qt::LeftButton);
             const QList<QByteArray> lines = app.bytesOf("go.bat").split('\n');
-            QCOMPARE(lines.size(), 4); // the folder and drive lines, the pass, nothing behind
-            QVERIFY2(lines[2].contains(pass.engineOption), lines[2].constData());
-            entry->trigger();
+            QVERIFY2(lines.size() == 4 && lines[2].contains(engineOption),
+                     lines.value(2).constData());
+            (*entry)->trigger();
         }
     }
 
