@@ -28,9 +28,11 @@ void elapseNow(FormTimer& timer) {
 class MainWindowTest : public QObject {
     Q_OBJECT
   private slots:
-    // Through the list, clicks and the two buttons, every box shows its patch as the selection
-    // holds it: greyed outside the world, ticked exactly when selected.
-    void theBoxesShowTheSelection() {
+    // Patch (c, r) stands under the column header reading c and beside the row header reading
+    // r, counted from "00" at the left and at the bottom: a click where the headers say ticks
+    // that patch, and lmList.dat names it. A mirrored or transposed grid lights other patches.
+    // Through the list and the two buttons every box shows its patch as the selection holds it.
+    void eachPatchWhereItsHeadersSayAsTheSelectionHoldsIt() {
         TestApp app;
         MainWindow& w = *app.window;
         const PatchGrid& grid = *w.patchGrid;
@@ -46,29 +48,9 @@ class MainWindowTest : public QObject {
                 enabled);
         };
         shown(16, 0);
-        QCOMPARE(app.status(), QString("Ready."));
-        chooseRow(w.worldSizeList, 1); // "8x8"
-        clickBox(grid.patch(17));
-        clickBox(grid.patch(100));
-        shown(64, 2);
-        chooseRow(w.worldSizeList, 0); // patch 100 greyed and unticked
-        shown(16, 1);
-        chooseRow(w.worldSizeList, 2); // "16x16" is 12 by 12
-        QTest::mouseClick(w.selectAllButton, Qt::LeftButton);
-        shown(144, 144);
-        QTest::mouseClick(w.clearSelectionButton, Qt::LeftButton);
-        shown(144, 0);
-    }
-
-    // Patch (c, r) stands under the column header reading c and beside the row header reading
-    // r, counted from "00" at the left and at the bottom: a click where the headers say ticks
-    // that patch, and lmList.dat names it. A mirrored or transposed grid lights other patches.
-    void eachPatchStandsWhereItsHeadersSay() {
-        TestApp app;
-        MainWindow& w = *app.window;
         chooseRow(w.worldSizeList, 3); // "32x32"
         QRect boxes;
-        for (QCheckBox* box : w.patchGrid->findChildren<QCheckBox*>())
+        for (QCheckBox* box : grid.findChildren<QCheckBox*>())
             boxes |= QRect(box->mapTo(&w, QPoint()), box->size());
         QMap<QString, QPoint> above, beside; // the headers' middles, by their text
         for (QLabel* label : w.findChildren<QLabel*>()) {
@@ -92,12 +74,18 @@ class MainWindowTest : public QObject {
         };
         for (int row = 0; row < kGridSide; ++row)
             for (int column = 0; column < kGridSide; ++column)
-                QVERIFY2(w.childAt(at(column, row)) == w.patchGrid->patch(row * 16 + column),
+                QVERIFY2(w.childAt(at(column, row)) == grid.patch(row * 16 + column),
                          qPrintable(QString("column %1, row %2").arg(column).arg(row)));
         for (const auto& [column, row] : {std::pair{15, 15}, {3, 2}, {0, 0}, {5, 0}})
             QTest::mouseClick(w.windowHandle(), Qt::LeftButton, {}, at(column, row));
-        QCOMPARE(w.patchGrid->selection().lmListRecords(),
+        QCOMPARE(grid.selection().lmListRecords(),
                  std::string("\x00\x00\x05\x00\x03\x02\x0F\x0F", 8));
+        chooseRow(w.worldSizeList, 2); // "16x16" is 12 by 12: patch 255 greyed and unticked
+        shown(144, 3);
+        QTest::mouseClick(w.selectAllButton, Qt::LeftButton);
+        shown(144, 144);
+        QTest::mouseClick(w.clearSelectionButton, Qt::LeftButton);
+        shown(144, 0);
     }
 
     // Every route, twice on every pass: a click, Space, the menu entry, the program setting
