@@ -1,0 +1,109 @@
+// What the user does in the paths dialog, on a config.ini of 30 saved settings: opening it,
+// loading a row, Save, Delete, the game folder browse, OK and Cancel.
+#include <QCoreApplication>
+#include <QFile>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "core/config_format.h"
+#include "core/text_lines.h"
+#include "gui/paths_dialog/paths_dialog.h"
+#include "platform/combo_list.h"
+#include "platform/menu_entry.h"
+#include "user_actions.h"
+
+namespace umbrakit::bench {
+
+namespace {
+constexpr int kRecords = 30;
+
+QString nameOf(int record) {
+    return QString("Level %1").arg(record + 1, 2, 10, QChar('0'));
+}
+
+QByteArray thirtyRecords() {
+    std::vector<std::string> lines;
+    for (int i = 0; i < kRecords; ++i) {
+        const SavedRecord record{nameOf(i).toStdString(),
+                                 "C:\\Program Files\\EA GAMES\\Battlefield 1942",
+                                 "level_" + std::to_string(i + 1),
+                                 "BF1942",
+                                 {i % 2 == 0, i % 3 == 0, i % 5 == 0},
+                                 "1." + std::to_string(i % 10)};
+        for (std::string& line : recordLines(record))
+            lines.push_back(std::move(line));
+    }
+    return QByteArray::fromStdString(joinLines(lines));
+}
+
+int savedInConfig(const BenchApp& app) {
+    QFile config(app.services.appFile("config.ini"));
+    return config.open(QIODevice::ReadOnly) ? int(config.readAll().count("[Save=")) : -1;
+}
+
+// The dialog shown on the 30 saved settings, as a user finds it after "Set Paths"; a file that
+// an earlier action changed is written anew and the dialog opened on it again.
+PathsDialogWindow& shownOnThirty(BenchApp& app) {
+    if (savedInConfig(app) != kRecords) {
+        QFile config(app.services.appFile("config.ini"));
+        if (config.open(QIODevice::WriteOnly))
+            config.write(thirtyRecords());
+        if (app.window->pathsDialog())
+            app.window->pathsDialog()->unload();
+    }
+    app.window->setPathsEntry->trigger();
+    return *app.window->pathsDialog()->window();
+}
+
+PathsDialogWindow& dialog(BenchApp& app) {
+    return *app.window->pathsDialog()->window();
+}
+
+bool isLoaded(BenchApp& app) {
+    return app.window->pathsDialog() && app.window->pathsDialog()->isLoaded();
+}
+} // namespace
+
+std::vector<UserAction> pathsDialogActions(BenchApp& app) {
+    const QString gameExe = "C:\\Games\\Battlefield 1942\\BF1942.exe";
+    return {
+        {"open Set Paths on 30 saved settings",
+         [&app] {
+             shownOnThirty(app);
+             app.window->pathsDialog()->unload();
+         },
+         [&app] { app.window->setPathsEntry->trigger(); },
+         [&app] { return isLoaded(app) && dialog(app).savedList->ListCount() == kRecords + 1; }},
+        {"pick a saved setting", [&app] { shownOnThirty(app).savedList->setListIndex(0); },
+         [&app] { dialog(app).savedList->setListIndex(15); },
+         [&app] { return dialog(app).levelBox->text() == "level_15"; }},
+        {"save a setting over an existing name",
+         [&app] {
+             shownOnThirty(app).nameBox->setText(nameOf(kRecords - 1));
+             app.dialogs.boxes.clear();
+         },
+         [&app] { dialog(app).saveButton->click(); },
+         [&app] { return app.dialogs.boxes.isEmpty() && savedInConfig(app) == kRecords; }},
+        {"delete a saved setting",
+         [&app] {
+             ComboList& list = *shownOnThirty(app).savedList;
+             list.setListIndex(list.ListCount() - 1);
+         },
+         [&app] { dialog(app).deleteButton->click(); },
+         [&app] { return savedInConfig(app) == kRecords - 1; }},
+        {"browse to bf1942.exe",
+         [&app, gameExe] {
+             shownOnThirty(app).gamePathBox->clear();
+             app.dialogs.fileAnswers.enqueue(gameExe);
+         },
+         [&app] { dialog(app).browseButton->click(); },
+         [&app] { return dialog(app).gamePathBox->text() == "C:\\Games\\Battlefield 1942"; }},
+        {"OK in Set Paths", [&app] { shownOnThirty(app).savedList->setListIndex(0); },
+         [&app] { dialog(app).okButton->click(); }, [&app] { return !isLoaded(app); }},
+        {"Cancel in Set Paths", [&app] { shownOnThirty(app); },
+         [&app] { dialog(app).cancelButton->click(); },
+         [&app] { return isLoaded(app) && !dialog(app).isVisible(); }},
+    };
+}
+
+} // namespace umbrakit::bench
