@@ -2,13 +2,13 @@
 // call, so the median and the 99th percentile over the repetitions are those of single calls.
 // The preparation of a call, and the repaint and deferred deletes that the call before it left,
 // run with the timing paused. The counter file_us is the time the call spent in file
-// operations, the wait for the disk rather than the program's own work.
+// operations: the wait for the disk rather than the program's own work.
 //   bench_handlers --benchmark_repetitions=500 [--benchmark_filter=REGEX] [--benchmark_out=F]
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
-#include <algorithm>
 #include <cmath>
+#include <cstdio>
 
 #include "bare_window.h"
 #include "user_actions.h"
@@ -16,16 +16,14 @@
 namespace {
 using umbrakit::bench::UserAction;
 
-bool anyFailed = false;
+std::vector<std::string> failed; // the actions that did not do their work
 
-// Paints now what the last changes made dirty, in every shown window, as each would on its
-// next update.
+// Paints now what the last changes made dirty, in every shown window, as its next update would.
 void repaintDirty() {
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible()) {
-            QEvent update(QEvent::UpdateRequest);
+        QEvent update(QEvent::UpdateRequest);
+        if (window->isVisible())
             QCoreApplication::sendEvent(window, &update);
-        }
     }
 }
 
@@ -38,9 +36,9 @@ void settle() {
 // Nearest rank: one call in a hundred takes longer.
 double percentile99(const std::vector<double>& samples) {
     std::vector<double> sorted = samples;
-    const auto rank = std::size_t(std::ceil(0.99 * double(sorted.size()))) - 1;
-    std::nth_element(sorted.begin(), sorted.begin() + std::ptrdiff_t(rank), sorted.end());
-    return sorted[rank];
+    const auto rank = sorted.begin() + std::ptrdiff_t(std::ceil(0.99 * double(sorted.size()))) - 1;
+    std::nth_element(sorted.begin(), rank, sorted.end());
+    return *rank;
 }
 
 void timeAction(benchmark::State& state, const UserAction& action,
@@ -48,6 +46,7 @@ void timeAction(benchmark::State& state, const UserAction& action,
     double fileUs = 0;
     for (auto _ : state) {
         state.PauseTiming();
+        settle(); // what the call before left
         if (action.prepare)
             action.prepare();
         settle();
@@ -58,13 +57,13 @@ void timeAction(benchmark::State& state, const UserAction& action,
             repaintDirty();
         state.PauseTiming();
         fileUs += files.spentUs() - fileUsBefore;
-        settle();
         state.ResumeTiming();
     }
     state.counters["file_us"] = benchmark::Counter(fileUs, benchmark::Counter::kAvgIterations);
+    settle();
     if (!action.worked()) {
         state.SkipWithError("the call did not do its work");
-        anyFailed = true;
+        failed.push_back(action.name);
     }
 }
 } // namespace
@@ -77,13 +76,11 @@ int main(int argc, char* argv[]) {
     umbrakit::bench::BenchApp bench;
     const auto bare = umbrakit::bench::makeBareWindow();
     bare->show();
-    QApplication::processEvents();
 
     std::vector<UserAction> actions = umbrakit::bench::mainWindowActions(bench);
-    for (UserAction& action : umbrakit::bench::pathsDialogActions(bench))
-        actions.push_back(std::move(action));
-    for (UserAction& action : umbrakit::bench::yardsticks(*bare, bench.dir.path()))
-        actions.push_back(std::move(action));
+    for (auto& more :
+         {umbrakit::bench::pathsDialogActions(bench), umbrakit::bench::yardsticks(*bare)})
+        actions.insert(actions.end(), more.begin(), more.end());
     const auto add = [&bench](const UserAction& action, const std::string& name, bool repaint) {
         const auto time = [&action, &bench, repaint](benchmark::State& state) {
             timeAction(state, action, bench.files, repaint);
@@ -96,9 +93,11 @@ int main(int argc, char* argv[]) {
     for (const UserAction& action : actions) {
         add(action, action.name, false);
         if (action.repaints)
-            add(action, action.name + " with the repaint", true);
+            add(action, action.name + " + repaint", true);
     }
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
-    return anyFailed ? 1 : 0;
+    for (const std::string& name : failed)
+        std::fprintf(stderr, "%s: the call did not do its work\n", name.c_str());
+    return failed.empty() ? 0 : 1;
 }

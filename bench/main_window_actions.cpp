@@ -51,7 +51,7 @@ std::vector<UserAction> mainWindowActions(BenchApp& app) {
         {"choose the 32x32 world", [&form] { chooseWorld(form, k4x4); },
          [&form] { form.worldSizeList->setListIndex(k32x32); },
          [&form] { return form.findChild<QCheckBox*>("CheckBoxArray_255")->isEnabled(); }, true},
-        {"choose the 4x4 world with 32x32 all ticked", [&form] { fullWorld(form, true); },
+        {"choose the 4x4 world, 32x32 all ticked", [&form] { fullWorld(form, true); },
          [&form] { form.worldSizeList->setListIndex(k4x4); },
          [&form] { return tickedPatches(form) == 16; }, true},
         {"Select All on 32x32", [&form] { fullWorld(form, false); },

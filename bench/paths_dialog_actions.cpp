@@ -5,8 +5,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "core/config_format.h"
-#include "core/text_lines.h"
 #include "gui/paths_dialog/paths_dialog.h"
 #include "platform/combo_list.h"
 #include "platform/menu_entry.h"
@@ -22,18 +20,16 @@ QString nameOf(int record) {
 }
 
 QByteArray thirtyRecords() {
-    std::vector<std::string> lines;
+    QString config;
     for (int i = 0; i < kRecords; ++i) {
-        const SavedRecord record{nameOf(i).toStdString(),
-                                 "C:\\Program Files\\EA GAMES\\Battlefield 1942",
-                                 "level_" + std::to_string(i + 1),
-                                 "BF1942",
-                                 {i % 2 == 0, i % 3 == 0, i % 5 == 0},
-                                 "1." + std::to_string(i % 10)};
-        for (std::string& line : recordLines(record))
-            lines.push_back(std::move(line));
+        config += QString("[Save=%1]\r\ngamePath=C:\\Program Files\\EA GAMES\\Battlefield 1942\r\n"
+                          "levelName=level_%2\r\nmodName=BF1942\r\nterrainBoolean=True\r\n"
+                          "mergeBoolean=False\r\nobjectBoolean=True\r\nshadowDarkness=1.%3\r\n")
+                      .arg(nameOf(i))
+                      .arg(i + 1)
+                      .arg(i % 10);
     }
-    return QByteArray::fromStdString(joinLines(lines));
+    return config.toLatin1();
 }
 
 int savedInConfig(const BenchApp& app) {

@@ -1,21 +1,17 @@
 // What the handler benchmark times: things a user does on the shown windows, each with the
 // untimed steps that bring the windows to the state it starts from and a check that it did its
 // work (a refused export is fast and proves nothing). The program runs on a temporary program
-// folder with the real file operations (timed apart), boxes and file dialogs answered from
-// queues, and a launcher that reports a start without starting anything.
+// folder with the real file operations, boxes and file dialogs answered from queues, and a
+// launcher that starts nothing.
 #pragma once
 
 #include <QTemporaryDir>
 #include <functional>
-#include <memory>
 #include <string>
-#include <vector>
 
 #include "gui/main_window/main_window.h"
 #include "support/test_doubles.h"
 #include "timed_file_ops.h"
-
-class QMainWindow;
 
 namespace umbrakit::bench {
 
@@ -23,7 +19,7 @@ struct UserAction {
     std::string name;              // what the user did
     std::function<void()> prepare; // untimed, before every call
     std::function<void()> act;     // timed
-    std::function<bool()> worked;  // after the calls: did they take the real path
+    std::function<bool()> worked;  // after the calls
     bool repaints = false;         // timed once more with the repaint it causes
 };
 
@@ -38,8 +34,7 @@ struct BenchApp {
 
 std::vector<UserAction> mainWindowActions(BenchApp& app);
 std::vector<UserAction> pathsDialogActions(BenchApp& app);
-// The toolkit's and the system's own share: the grid's work on the bare window's plain check
-// boxes, and a file written, flushed and renamed with plain system calls.
-std::vector<UserAction> yardsticks(QMainWindow& bareWindow, const QString& folder);
+// The toolkit's own share of the grid's work: the bare window's plain check boxes.
+std::vector<UserAction> yardsticks(QMainWindow& bareWindow);
 
 } // namespace umbrakit::bench
