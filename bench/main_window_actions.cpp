@@ -1,5 +1,5 @@
-// What the user does on the main window: the world size, the grid commands, a patch, the
-// passes, the export of a full grid, the lighting run and the small commands of the menus.
+// What the user does on the main window: the world size, the grid commands, a patch, a pass,
+// the export of a full grid, the lighting run and the About box.
 // Everything goes through the window's own controls, as a click or a key would.
 #include <QCheckBox>
 #include <QFileInfo>
@@ -43,7 +43,7 @@ std::vector<UserAction> mainWindowActions(BenchApp& app) {
     const auto status = [&form](const char* text) { return form.statusLine->SimpleText() == text; };
     QCheckBox* patch = form.findChild<QCheckBox*>("CheckBoxArray_17");
     const QString lmList = app.dir.filePath("lmList.dat");
-    // Every pass ticked in a configuration that can run them.
+    // A configuration that can run the lighting; the actions tick its passes themselves.
     form.applyConfiguration(
         {U"C:\\Program Files\\EA GAMES\\Battlefield 1942", U"Berlin", U"BF1942", 1.5, {}});
 
@@ -65,13 +65,6 @@ std::vector<UserAction> mainWindowActions(BenchApp& app) {
         {"tick a pass box", [&form] { form.passBoxes[0]->setValue(0); },
          [&form] { form.passBoxes[0]->click(); },
          [&form] { return form.passEntries[0]->Checked(); }},
-        {"tick a pass in the Run menu",
-         [&form] {
-             if (form.passEntries[1]->Checked())
-                 form.passEntries[1]->trigger();
-         },
-         [&form] { form.passEntries[1]->trigger(); },
-         [&form] { return form.passBoxes[1]->Value() == 1; }},
         {"export 256 patches over the old lmList.dat",
          [&app, &form, lmList] {
              if (tickedPatches(form) != 256)
@@ -92,21 +85,12 @@ std::vector<UserAction> mainWindowActions(BenchApp& app) {
              return status("Running batch lighting... You may exit.") &&
                     QFileInfo(app.dir.filePath("go.bat")).size() > 0;
          }},
-        {"the status line goes back to Ready.",
-         [&form] { form.statusLine->setSimpleText("Saved!"); },
-         [&form] { emit form.statusTimer->Timer(); }, [status] { return status("Ready."); }},
-        {"choose the retired Save in the File menu", [&app] { app.dialogs.boxes.clear(); },
-         [&form] { form.retiredSaveEntry->trigger(); },
-         [&app] { return app.dialogs.boxes.size() == 1; }},
         {"open the About box",
          [&form] {
              if (form.aboutBox())
                  form.aboutBox()->unload();
          },
          [&form] { form.aboutEntry->trigger(); }, [&form] { return form.aboutBox()->isLoaded(); }},
-        {"OK in the About box", [&form] { form.aboutEntry->trigger(); },
-         [&form] { form.aboutBox()->window()->okButton->click(); },
-         [&form] { return !form.aboutBox()->isLoaded(); }},
     };
 }
 

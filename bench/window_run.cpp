@@ -1,12 +1,11 @@
 #include "window_run.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QEvent>
 #include <QTimer>
 #include <QWidget>
 #include <cstdio>
-#include <fstream>
+#include <sys/resource.h>
 
 namespace umbrakit::bench {
 
@@ -31,34 +30,22 @@ class FirstPaint : public QObject {
     QWidget& window_;
 };
 
-// Wake-ups of a thread: the context switches the kernel counted for it, voluntary or not.
-long wakeupsOf(const QString& thread) {
-    std::ifstream status(QString("/proc/self/task/%1/status").arg(thread).toStdString());
-    long total = 0, count = 0;
-    for (std::string key; status >> key;) {
-        if (key.ends_with("ctxt_switches:") && status >> count)
-            total += count;
-    }
-    return total;
-}
-
-long wakeupsOfAllThreads() {
-    long total = 0;
-    for (const QString& thread :
-         QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-        total += wakeupsOf(thread);
-    return total;
+// Wake-ups: the context switches the kernel counted, voluntary or not, of the main thread
+// (RUSAGE_THREAD) or of all threads (RUSAGE_SELF).
+long wakeups(int who) {
+    rusage usage{};
+    getrusage(who, &usage);
+    return usage.ru_nvcsw + usage.ru_nivcsw;
 }
 
 // The timer that ends the wait wakes the loop once; the bare window's run pays it too.
 void printIdleWakeups(int milliseconds) {
-    const QString mainThread = QString::number(QCoreApplication::applicationPid());
-    const long mainBefore = wakeupsOf(mainThread), allBefore = wakeupsOfAllThreads();
+    const long mainBefore = wakeups(RUSAGE_THREAD), allBefore = wakeups(RUSAGE_SELF);
     QTimer::singleShot(milliseconds, Qt::PreciseTimer, qApp, &QCoreApplication::quit);
     QCoreApplication::exec();
     std::printf("{\"idle_s\": %.1f, \"wakeups\": %ld, \"all_threads_wakeups\": %ld}\n",
-                milliseconds / 1000.0, wakeupsOf(mainThread) - mainBefore,
-                wakeupsOfAllThreads() - allBefore);
+                milliseconds / 1000.0, wakeups(RUSAGE_THREAD) - mainBefore,
+                wakeups(RUSAGE_SELF) - allBefore);
 }
 } // namespace
 
