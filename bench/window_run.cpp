@@ -11,7 +11,8 @@ namespace umbrakit::bench {
 
 namespace {
 // Ends the event loop once the window has received its first paint event. The end is queued,
-// so the paint itself, of the window and all its children, runs to its end first.
+// so the paint itself, of the window and all its children, runs to its end first; it is an
+// exit, for quit() would also close the window.
 class FirstPaint : public QObject {
   public:
     explicit FirstPaint(QWidget& window) : window_(window) { window.installEventFilter(this); }
@@ -21,7 +22,8 @@ class FirstPaint : public QObject {
         if (watched == &window_ && event->type() == QEvent::Paint && !painted) {
             painted = true;
             window_.removeEventFilter(this);
-            QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
         }
         return false;
     }
@@ -41,7 +43,7 @@ long wakeups(int who) {
 // The timer that ends the wait wakes the loop once; the bare window's run pays it too.
 void printIdleWakeups(int milliseconds) {
     const long mainBefore = wakeups(RUSAGE_THREAD), allBefore = wakeups(RUSAGE_SELF);
-    QTimer::singleShot(milliseconds, Qt::PreciseTimer, qApp, &QCoreApplication::quit);
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, qApp, [] { QCoreApplication::exit(0); });
     QCoreApplication::exec();
     std::printf("{\"idle_s\": %.1f, \"wakeups\": %ld, \"all_threads_wakeups\": %ld}\n",
                 milliseconds / 1000.0, wakeups(RUSAGE_THREAD) - mainBefore,
@@ -52,7 +54,7 @@ void printIdleWakeups(int milliseconds) {
 int runShownWindow(QWidget& window) {
     FirstPaint firstPaint(window);
     QTimer giveUp; // a window that never paints must not hang the benchmark
-    QObject::connect(&giveUp, &QTimer::timeout, qApp, &QCoreApplication::quit);
+    QObject::connect(&giveUp, &QTimer::timeout, qApp, [] { QCoreApplication::exit(0); });
     giveUp.start(20000);
     QCoreApplication::exec();
     giveUp.stop();
