@@ -63,7 +63,8 @@ void timeAction(benchmark::State& state, const UserAction& action,
     settle();
     if (!action.worked()) {
         state.SkipWithError("the call did not do its work");
-        failed.push_back(action.name);
+        if (failed.empty() || failed.back() != action.name)
+            failed.push_back(action.name);
     }
 }
 } // namespace
