@@ -22,9 +22,9 @@ std::vector<UserAction> yardsticks(QMainWindow& bareWindow) {
         box->setEnabled(true);
     return {
         {"yardstick: tick 256 plain QCheckBox", [=] { tickAll(false); }, [=] { tickAll(true); },
-         [=] { return allAre(true); }},
+         [=] { return allAre(true); }, true},
         {"yardstick: untick 256 plain QCheckBox", [=] { tickAll(true); }, [=] { tickAll(false); },
-         [=] { return allAre(false); }},
+         [=] { return allAre(false); }, true},
     };
 }
 
