@@ -4,7 +4,7 @@
 # runs them; the test below runs each once, briefly, so that they keep building and working.
 # No test judges a time.
 
-# The wake-ups come from /proc: Linux only.
+# The wake-ups of one thread (RUSAGE_THREAD) and GNU time: Linux only.
 if(NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
     return()
 endif()
