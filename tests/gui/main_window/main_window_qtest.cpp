@@ -1,5 +1,6 @@
 // The main window as the user meets it: the patch grid under every world size, the three
 // passes kept in step whichever way they change, the status line's timer, and the end.
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
@@ -74,11 +75,20 @@ class MainWindowTest : public QObject {
             for (int route = 0; route < 10; ++route) {
                 QSignalSpy clicks(box, &ClickCheckBox::Click);
                 switch (route / 2) {
-                case 0: clickBox(box); break;
-                case 1: QTest::keyClick(box, Qt::Key_Space); break;
-                case 2: w.passEntries[int(pass)]->trigger(); break;
-                case 3: box->setValue(1 - box->Value()); break;
-                default: box->setValue(box->Value());
+                case 0:
+                    clickBox(box);
+                    break;
+                case 1:
+                    QTest::keyClick(box, Qt::Key_Space);
+                    break;
+                case 2:
+                    w.passEntries[int(pass)]->trigger();
+                    break;
+                case 3:
+                    box->setValue(1 - box->Value());
+                    break;
+                default:
+                    box->setValue(box->Value());
                 }
                 const bool changes = route < 8;
                 on[pass] = on[pass] != changes;
@@ -90,6 +100,36 @@ class MainWindowTest : public QObject {
             }
             box->setValue(1); // left on while the next is tried
             on[pass] = true;
+        }
+    }
+
+    // Found by their captions, as a user finds them: each entry of Run, Options ticks itself,
+    // moves the box of its pass and no other, and go.bat then runs that pass alone.
+    void eachPassEntrySwitchesThePassItNames() {
+        TestApp app;
+        MainWindow& w = *app.window;
+        app.setPaths(U"D:\\BF1942", U"Level", U"BF1942");
+        const char* const passes[][3] = {
+            {"Generate &TerrainShadows", "Generate &TerrainShadows", "+traceTerrainShadows"},
+            {"&Merge TerrainShadows", "&Merge TerrainShadows", "+mergeTerrainShadows"},
+            {"&Generate ObjectShadows", "Generate &ObjectShadows", "+traceObjectShadows"}};
+        const QList<QAction*> entries = w.findChild<QMenu*>("menuRunOption")->actions();
+        const QList<QCheckBox*> boxes = w.findChildren<QCheckBox*>();
+        for (const auto& [entryCaption, boxCaption, engineOption] : passes) {
+            const auto entry = std::ranges::find(entries, entryCaption, &QAction::text);
+            QVERIFY2(entry != entries.end(), entryCaption);
+            (*entry)->trigger();
+            for (QAction* other : entries)
+                QCOMPARE(other->isChecked(), other == *entry);
+            QCOMPARE(std::ranges::count_if(boxes, &QCheckBox::isChecked), 1);
+            QVERIFY2(std::ranges::find(boxes, boxCaption, &QCheckBox::text) != boxes.end() &&
+                         (*std::ranges::find(boxes, boxCaption, &QCheckBox::text))->isChecked(),
+                     boxCaption);
+            QTest::mouseClick(w.runLightingButton, Qt::LeftButton);
+            const QList<QByteArray> lines = app.bytesOf("go.bat").split('\n');
+            QVERIFY2(lines.size() == 4 && lines[2].contains(engineOption),
+                     lines.value(2).constData());
+            (*entry)->trigger();
         }
     }
 
