@@ -15,23 +15,11 @@
 
 using namespace umbrakit;
 
-namespace {
-// Ends the running countdown at once, as if its interval had passed.
-void elapseNow(FormTimer& timer) {
-    auto* countdown = timer.findChild<QTimer*>("countdown");
-    countdown->start();
-    QMetaObject::invokeMethod(countdown, "timeout");
-}
-
-} // namespace
-
 class MainWindowTest : public QObject {
     Q_OBJECT
   private slots:
-    // Patch (c, r) stands under the column header reading c and beside the row header reading
-    // r, counted from "00" at the left and at the bottom: a click where the headers say ticks
-    // that patch, and lmList.dat names it. A mirrored or transposed grid lights other patches.
-    // Through the list and the two buttons every box shows its patch as the selection holds it.
+    // Patch (c, r) stands under the headers reading c and r, "00" at the left and the bottom;
+    // a click there ticks it. Every box shows its patch as the selection holds it.
     void eachPatchWhereItsHeadersSayAsTheSelectionHoldsIt() {
         TestApp app;
         MainWindow& w = *app.window;
@@ -88,9 +76,8 @@ class MainWindowTest : public QObject {
         shown(144, 0);
     }
 
-    // Every route, twice on every pass: a click, Space, the menu entry, the program setting
-    // the other Value and the same Value. One Click per real change, none otherwise, and box,
-    // tick and configuration always agree while the other passes never move.
+    // Twice on every pass by each route: a click, Space, the menu entry, the other Value, the
+    // same Value. One Click per real change; box, tick and configuration agree.
     void everyRouteKeepsThePassInStep() {
         TestApp app;
         MainWindow& w = *app.window;
@@ -99,23 +86,15 @@ class MainWindowTest : public QObject {
             ClickCheckBox* box = w.passBoxes[int(pass)];
             for (int route = 0; route < 10; ++route) {
                 QSignalSpy clicks(box, &ClickCheckBox::Click);
-                switch (route / 2) {
-                case 0:
-                    clickBox(box);
-                    break;
-                case 1:
-                    QTest::keyClick(box, Qt::Key_Space);
-                    break;
-                case 2:
-                    w.passEntries[int(pass)]->trigger();
-                    break;
-                case 3:
-                    box->setValue(1 - box->Value());
-                    break;
-                default:
-                    box->setValue(box->Value());
-                }
                 const bool changes = route < 8;
+                if (route < 2)
+                    clickBox(box);
+                else if (route < 4)
+                    QTest::keyClick(box, Qt::Key_Space);
+                else if (route < 6)
+                    w.passEntries[int(pass)]->trigger();
+                else
+                    box->setValue(changes ? 1 - box->Value() : box->Value());
                 on[pass] = on[pass] != changes;
                 QCOMPARE(clicks.size(), changes ? 1 : 0);
                 QCOMPARE(w.configuration().passes, on);
@@ -128,8 +107,8 @@ class MainWindowTest : public QObject {
         }
     }
 
-    // Found by their captions, as a user finds them: each entry of Run, Options ticks itself,
-    // moves the box of its pass and no other, and go.bat then runs that pass alone.
+    // By their captions: each entry of Run, Options ticks itself and its box alone, and go.bat
+    // then runs that pass alone.
     void eachPassEntrySwitchesThePassItNames() {
         TestApp app;
         MainWindow& w = *app.window;
@@ -146,10 +125,8 @@ class MainWindowTest : public QObject {
             (*entry)->trigger();
             for (QAction* other : entries)
                 QCOMPARE(other->isChecked(), other == *entry);
-            QCOMPARE(std::ranges::count_if(boxes, &QCheckBox::isChecked), 1);
-            QVERIFY2(std::ranges::find(boxes, boxCaption, &QCheckBox::text) != boxes.end() &&
-                         (*std::ranges::find(boxes, boxCaption, &QCheckBox::text))->isChecked(),
-                     boxCaption);
+            for (QCheckBox* box : boxes)
+                QVERIFY2(box->isChecked() == (box->text() == boxCaption), boxCaption);
             QTest::mouseClick(w.runLightingButton, Qt::LeftButton);
             const QList<QByteArray> lines = app.bytesOf("go.bat").split('\n');
             QVERIFY2(lines.size() == 4 && lines[2].contains(engineOption),
@@ -158,8 +135,8 @@ class MainWindowTest : public QObject {
         }
     }
 
-    // A second outcome during the countdown does not start it again.
-    void anOutcomeReturnsToReadyOnce() {
+    // A second outcome during the countdown does not start it again; then the end.
+    void anOutcomeReturnsToReadyOnceAndTheEnd() {
         TestApp app;
         FormTimer& timer = *app.window->statusTimer;
         QVERIFY(!timer.Enabled());
@@ -172,14 +149,12 @@ class MainWindowTest : public QObject {
         QCOMPARE(app.status(), QString("Saved!"));
         QVERIFY2(timer.remainingMs() > 0 && timer.remainingMs() <= 1750,
                  qPrintable(QString::number(timer.remainingMs())));
-        elapseNow(timer);
+        QTimer* countdown = timer.findChild<QTimer*>("countdown"); // ends at once
+        countdown->start();
+        QMetaObject::invokeMethod(countdown, "timeout");
         QCOMPARE(app.status(), QString("Ready."));
         QVERIFY(!timer.Enabled());
-    }
-
-    void exitAndClosingTheWindowEndTheProgram() {
-        TestApp app;
-        app.window->exitEntry->trigger();
+        app.window->exitEntry->trigger(); // Exit and the close box end the program
         QCOMPARE(app.endCalls, 1);
         app.window->aboutEntry->trigger(); // another window open changes nothing
         app.window->close();
