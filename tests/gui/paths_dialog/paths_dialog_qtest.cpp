@@ -1,7 +1,5 @@
-// The paths dialog through its controls: its keys, opening, Cancel, OK and the close box, the
-// saved settings seen in the list and in config.ini, and the game folder browse. What a row,
-// a Save or a Delete does to the values is tested on the core; failing file operations in
-// tests/reliability.
+// The paths dialog through its controls; what a row, a Save or a Delete does to the values is
+// the core's.
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -14,7 +12,8 @@ using namespace umbrakit;
 class PathsDialogTest : public QObject {
     Q_OBJECT
   private slots:
-    void keysOfTheWindow() {
+    // Esc is no way out, Enter is OK; access keys; Cancel hides, the close box unloads.
+    void keysCancelAndTheCloseBox() {
         TestApp app;
         PathsDialogWindow& w = openPaths(app);
         QVERIFY(QTest::qWaitForWindowActive(&w));
@@ -22,21 +21,22 @@ class PathsDialogTest : public QObject {
         QSignalSpy okPressed(w.okButton, &QPushButton::clicked);
         QTest::keyClick(w.levelBox, Qt::Key_Escape); // no way out
         QVERIFY(w.isVisible() && app.window->pathsDialog()->isLoaded());
-
-        // Enter is OK, from a text box and from the mod list's typing box, which gets no row.
         QTest::keyClick(w.levelBox, Qt::Key_Return);
         QTest::keyClick(w.modBox->lineEdit(), Qt::Key_Enter);
         QCOMPARE(okPressed.count(), 2);
         QCOMPARE(app.dialogs.boxes.last().prompt, QString("Please complete all entries."));
-        QCOMPARE(w.modBox->ListCount(), 3);
-
-        // Access keys: the disabled pass boxes take neither O nor T; C is Cancel, which hides.
-        QTest::keyClick(&w, Qt::Key_O, Qt::AltModifier);
+        QCOMPARE(w.modBox->ListCount(), 3);              // the typing box's Enter adds no row
+        QTest::keyClick(&w, Qt::Key_O, Qt::AltModifier); // not the greyed pass boxes' O and T
         QTRY_COMPARE(okPressed.count(), 3);
         QTest::keyClick(&w, Qt::Key_T, Qt::AltModifier);
         QTest::keyClick(&w, Qt::Key_C, Qt::AltModifier);
         QTRY_VERIFY(!w.isVisible());
         QVERIFY(texts(w).endsWith("|000") && app.window->pathsDialog()->isLoaded());
+        type(openPaths(app).gamePathBox, "C:\\Game");
+        QVERIFY(w.close());
+        QVERIFY(!app.window->pathsDialog()->isLoaded());
+        QCOMPARE(texts(openPaths(app)), "(Current)||||1.5|000");
+        QVERIFY(app.window->configuration().gamePath.empty());
     }
 
     void cancelKeepsEverythingForTheNextOpeningAndOkAppliesIt() {
@@ -58,7 +58,7 @@ class PathsDialogTest : public QObject {
         QCOMPARE(app.files.operations, operations);
         QCOMPARE(texts(w), "Wake|D:\\BF|Level =1|Not A Listed Mod| 0.75 |110");
 
-        // OK sets the main window's pass boxes: one Click for each real change only.
+        // OK sets the pass boxes: one Click for each real change only.
         QSignalSpy terrain(app.window->passBoxes[0], &ClickCheckBox::Click);
         QSignalSpy merge(app.window->passBoxes[1], &ClickCheckBox::Click);
         click(w.okButton);
@@ -69,16 +69,6 @@ class PathsDialogTest : public QObject {
         QVERIFY(app.window->passEntries[int(Pass::Merge)]->Checked());
         QVERIFY(!app.window->pathsDialog()->isLoaded());
         QVERIFY(app.dialogs.boxes.isEmpty());
-    }
-
-    void closeBoxUnloadsAndAppliesNothing() {
-        TestApp app;
-        PathsDialogWindow* w = &openPaths(app);
-        type(w->gamePathBox, "C:\\Game");
-        QVERIFY(w->close());
-        QVERIFY(!app.window->pathsDialog()->isLoaded());
-        QCOMPARE(texts(openPaths(app)), "(Current)||||1.5|000");
-        QVERIFY(app.window->configuration().gamePath.empty());
     }
 
     // The list and the boxes follow config.ini; what Save and Delete write is the core's.
@@ -108,8 +98,7 @@ class PathsDialogTest : public QObject {
         QCOMPARE(rowsOf(openPaths(app).savedList).size(), 4);
     }
 
-    // Qt's text boxes hold 32,767 characters unless told otherwise; a save would write a
-    // longer value cut.
+    // Qt's text boxes hold 32,767 characters unless told otherwise.
     void aLongValueIsShownAndSavedWhole() {
         TestApp app;
         const QByteArray big(100000, 'x');
