@@ -1,6 +1,4 @@
-// The two commands that write files: the export of lmList.dat and the lighting run, as the user
-// meets them. The bytes themselves are the core's; each failing file operation is swept in
-// tests/reliability.
+// The export of lmList.dat and the lighting run as the user meets them; the bytes are the core's.
 #include <QDir>
 #include <QPushButton>
 #include <QtTest>
@@ -21,7 +19,7 @@ const QString kRunning = "Running batch lighting... You may exit.";
 const std::u32string kGame = U"D:\\Games\\BF1942";
 const QByteArray kOld = "@echo an earlier file\r\n@rem that must stay as it is\r\n";
 
-// The text on the line is the last that screen readers were told as an outcome.
+// The line's text is the last outcome that screen readers were told.
 bool told(TestApp& app) {
     return app.window->statusLine->findChild<SpokenNotice*>()->accessibleName() == app.status();
 }
@@ -71,18 +69,16 @@ class ExportAndLightingTest : public QObject {
     }
 
     void everyRouteWritesTheScriptAndStartsIt() {
-        const QString routes[] = {"button", "menu", "Ctrl+G"};
-        const int passes[] = {7, 1, 5}; // terrain 1, merge 2, object 4: any two tell apart
-        for (int i = 0; i < 3; ++i) {
+        for (const int passes : {7, 1, 5}) { // terrain 1, merge 2, object 4; by button, menu, keys
             TestApp app;
             app.write("go.bat", kOld);
             app.setPaths(kGame, U"MyLevel", U"BF1942");
             for (Pass pass : kPasses)
-                if (passes[i] & (1 << int(pass)))
+                if (passes & (1 << int(pass)))
                     clickBox(app.window->passBoxes[int(pass)]);
-            if (routes[i] == "button") {
+            if (passes == 7) {
                 QTest::mouseClick(app.window->runLightingButton, Qt::LeftButton);
-            } else if (routes[i] == "menu") {
+            } else if (passes == 1) {
                 app.window->goEntry->trigger();
             } else {
                 app.window->activateWindow();
@@ -98,8 +94,7 @@ class ExportAndLightingTest : public QObject {
         }
     }
 
-    // Refusals leave the old script; a start that fails says why, naming go.bat. The line
-    // never claims that lighting runs then, and goes back to rest.
+    // Refusals leave the old script; a failed start names go.bat, and the line goes back to rest.
     void refusalsAndFailedStarts() {
         const QString incomplete = "Error: Incomplete Config. Set Paths or Load Config.";
         const struct {

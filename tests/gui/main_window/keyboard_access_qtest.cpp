@@ -14,10 +14,10 @@ using namespace umbrakit;
 
 namespace {
 QList<std::pair<QObject*, QAccessible::Event>> heard;
-QAccessibleInterface* spoken(QObject* object) {
-    return QAccessible::queryAccessibleInterface(object);
+const auto spoken = &QAccessible::queryAccessibleInterface;
+QPoint inside(QWidget* control) {
+    return control->mapTo(control->window(), QPoint(8, 8));
 }
-
 void activate(QWidget& window) {
     window.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window));
@@ -65,9 +65,8 @@ class KeyboardAccessTest : public QObject {
         QTRY_VERIFY_WITH_TIMEOUT(QAccessible::isActive(), 10000);
     }
 
-    // Alt+A selects all at every press; About by Alt or F10, the arrows and Return. The status
-    // line is spoken by its text and heard at each change. Each frame is a group named by its
-    // caption around its controls; the caption is no child.
+    // Alt+A at every press; About by Alt or F10, the arrows and Return; the status line spoken
+    // and heard at each change; each frame a group named by its caption around its controls.
     void accessKeysTheMenuBarTheStatusLineAndTheFrames() {
         TestApp app;
         MainWindow& w = *app.window;
@@ -109,10 +108,9 @@ class KeyboardAccessTest : public QObject {
         }
     }
 
-    // In 8x8 from patch 0, Up is a higher row and the edges hold; each move and tick is heard.
-    // After a click the keys go on from the clicked patch: the arrows, Space, and Tab out of
-    // the grid and back. The focus ring stands around the focused patch and no other.
-    // Then 4x4: a drag gives the first patch's new state to every enabled patch passed over.
+    // In 8x8, Up is a higher row and the edges hold; each move and tick is heard; after a click
+    // the keys go on from there; the ring is around the focused patch alone. Then in 4x4 a drag
+    // gives the first patch's new state to every enabled patch passed over.
     void theGridByKeysMouseAndDrag() {
         TestApp app;
         MainWindow& w = *app.window;
@@ -134,8 +132,7 @@ class KeyboardAccessTest : public QObject {
             const QWidget* before = QApplication::focusWidget();
             heard.clear();
             if (QString(key) == "click")
-                QTest::mouseClick(w.windowHandle(), Qt::LeftButton, {},
-                                  target->mapTo(&w, QPoint(8, 8)));
+                QTest::mouseClick(w.windowHandle(), Qt::LeftButton, {}, inside(target));
             else
                 press(w, key);
             QVERIFY2(QApplication::focusWidget() == target, key);
@@ -158,7 +155,7 @@ class KeyboardAccessTest : public QObject {
         for (int i = 0; i < kPatchCount; ++i)
             connect(grid.patch(i), &QCheckBox::clicked, [&] { ++clicks; });
         QWindow* window = w.windowHandle();
-        const auto at = [&](int patch) { return grid.patch(patch)->mapTo(&w, QPoint(8, 8)); };
+        const auto at = [&](int patch) { return inside(grid.patch(patch)); };
         const auto drag = [&](std::initializer_list<int> way) {
             QTest::mousePress(window, Qt::LeftButton, {}, at(*way.begin()));
             for (int patch : way)

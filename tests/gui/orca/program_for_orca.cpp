@@ -1,6 +1,5 @@
-// The program as the Orca test meets it: its real windows, boxes and file dialogs on the
-// program folder given as the one argument, with a launcher that starts nothing and reports
-// go.bat as started.
+// The program with its real windows and dialogs on the folder given, and a launcher that
+// starts nothing.
 #include <QApplication>
 
 #include "gui/main_window/main_window.h"
