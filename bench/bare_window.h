@@ -6,7 +6,5 @@
 #include <memory>
 
 namespace umbrakit::bench {
-
 std::unique_ptr<QMainWindow> makeBareWindow();
-
-} // namespace umbrakit::bench
+}
