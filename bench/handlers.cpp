@@ -39,24 +39,19 @@ double percentile99(const std::vector<double>& samples) {
 
 bool timeAction(benchmark::State& state, const UserAction& action, const double& fileUs,
                 bool withRepaint) {
-    double fileUsInCalls = 0;
+    double fileUsBefore = 0;
     for (auto _ : state) {
         state.PauseTiming();
         settle();
-        if (action.prepare)
-            action.prepare();
+        action.prepare();
         settle();
-        const double fileUsBefore = fileUs;
+        fileUsBefore = fileUs;
         state.ResumeTiming();
         action.act();
         if (withRepaint)
             repaintDirty();
-        state.PauseTiming();
-        fileUsInCalls += fileUs - fileUsBefore;
-        state.ResumeTiming();
     }
-    state.counters["file_us"] =
-        benchmark::Counter(fileUsInCalls, benchmark::Counter::kAvgIterations);
+    state.counters["file_us"] = fileUs - fileUsBefore;
     settle();
     return action.worked();
 }

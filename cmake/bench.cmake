@@ -16,12 +16,12 @@ endif()
 
 add_executable(bench_startup_umbrakit bench/startup.cpp)
 target_link_libraries(bench_startup_umbrakit PRIVATE umbrakit_gui)
-add_executable(bench_startup_bare bench/startup.cpp bench/bare_window.cpp bench/bare_window.h)
+add_executable(bench_startup_bare bench/startup.cpp bench/bare_window.h)
 target_compile_definitions(bench_startup_bare PRIVATE BARE_WINDOW)
 target_link_libraries(bench_startup_bare PRIVATE Qt6::Widgets)
 
 add_executable(bench_handlers bench/handlers.cpp bench/user_actions.h bench/user_actions.cpp
-    bench/bare_window.cpp)
+    bench/bare_window.h)
 # The boxes and file dialogs are answered as the tests answer them.
 target_include_directories(bench_handlers PRIVATE tests)
 target_link_libraries(bench_handlers PRIVATE umbrakit_gui Qt6::Test benchmark::benchmark)
