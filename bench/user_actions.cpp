@@ -35,19 +35,10 @@ int tickedPatches(const MainWindow& form) {
     return int(std::count(values.begin(), values.end(), 1));
 }
 
-void chooseWorld(MainWindow& form, int index) {
-    if (form.worldSizeList->ListIndex() != index)
-        form.worldSizeList->setListIndex(index);
-}
-
 // The 32x32 world with every patch ticked or none.
 void showFullWorld(MainWindow& form, bool ticked) {
-    chooseWorld(form, k32x32);
+    form.worldSizeList->setListIndex(k32x32);
     (ticked ? form.selectAllButton : form.clearSelectionButton)->click();
-}
-
-QString nameOf(int record) {
-    return QString("Level %1").arg(record + 1, 2, 10, QChar('0'));
 }
 
 int savedInConfig(const BenchApp& app) {
@@ -61,7 +52,8 @@ PathsDialogWindow& shownOnThirty(BenchApp& app) {
     if (savedInConfig(app) != kRecords) {
         QByteArray config;
         for (int i = 0; i < kRecords; ++i)
-            config += record(nameOf(i).toLatin1(), "C:\\Program Files\\EA GAMES\\Battlefield 1942",
+            config += record("Level " + QByteArray::number(10 + i),
+                             "C:\\Program Files\\EA GAMES\\Battlefield 1942",
                              "level_" + QByteArray::number(i + 1), "BF1942", "101",
                              "1." + QByteArray::number(i % 10));
         QFile file(app.services.appFile("config.ini"));
@@ -107,7 +99,7 @@ std::vector<UserAction> userActions(BenchApp& app, QMainWindow& bareWindow) {
         box->setEnabled(true);
 
     return {
-        {"choose the 32x32 world", [&form] { chooseWorld(form, k4x4); },
+        {"choose the 32x32 world", [&form] { form.worldSizeList->setListIndex(k4x4); },
          [&form] { form.worldSizeList->setListIndex(k32x32); },
          [&form] { return form.patchGrid->patch(255)->isEnabled(); }},
         {"choose the 4x4 world, 32x32 all ticked", fullWorld(true),
@@ -155,7 +147,7 @@ std::vector<UserAction> userActions(BenchApp& app, QMainWindow& bareWindow) {
          [=] { return dialog().levelBox->text() == "level_15"; }},
         {"save a setting over an existing name",
          [&app] {
-             shownOnThirty(app).nameBox->setText(nameOf(kRecords - 1));
+             shownOnThirty(app).nameBox->setText("Level 39");
              app.dialogs.boxes.clear();
          },
          [=] { dialog().saveButton->click(); },
