@@ -22,7 +22,7 @@ target_link_libraries(bench_startup_bare PRIVATE Qt6::Widgets)
 
 add_executable(bench_handlers bench/handlers.cpp bench/user_actions.h bench/user_actions.cpp
     bench/bare_window.h)
-# The boxes and file dialogs are answered as the tests answer them.
+# The boxes and file dialogs are answered, and config.ini's records written, as in the tests.
 target_include_directories(bench_handlers PRIVATE tests)
 target_link_libraries(bench_handlers PRIVATE umbrakit_gui Qt6::Test benchmark::benchmark)
 
