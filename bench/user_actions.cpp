@@ -30,9 +30,12 @@ bool allAre(const QList<QCheckBox*>& boxes, bool ticked) {
                        [ticked](QCheckBox* box) { return box->isChecked() == ticked; });
 }
 
+// As the user sees them: the ticks of the grid's check boxes.
 int tickedPatches(const MainWindow& form) {
-    const PatchValues values = form.patchGrid->values();
-    return int(std::count(values.begin(), values.end(), 1));
+    int ticked = 0;
+    for (int patch = 0; patch < kPatchCount; ++patch)
+        ticked += form.patchGrid->patch(patch)->isChecked();
+    return ticked;
 }
 
 // The 32x32 world with every patch ticked or none.
