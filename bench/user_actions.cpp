@@ -118,7 +118,7 @@ std::vector<UserAction> userActions(BenchApp& app, QMainWindow& bareWindow) {
              showFullWorld(form, true);
              app.dialogs.fileAnswers.enqueue(lmList);
              app.dialogs.boxAnswers.enqueue(MsgBoxAnswer::Yes); // replace the old file
-             form.statusTimer->setEnabled(false);
+             form.statusTimer->setEnabled(false); // restarted by each call: ends after the check
          },
          click(form.exportButton),
          [status, lmList] { return status("Saved!") && QFileInfo(lmList).size() == 512; }},
@@ -126,6 +126,7 @@ std::vector<UserAction> userActions(BenchApp& app, QMainWindow& bareWindow) {
          [&form] {
              for (ClickCheckBox* pass : form.passBoxes)
                  pass->setValue(1);
+             form.statusTimer->setEnabled(false); // restarted by each call: ends after the check
          },
          click(form.runLightingButton),
          [&app, status] {
