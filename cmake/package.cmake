@@ -1,8 +1,9 @@
 # The portable package: one folder holding the program, its menu entry, its icon as PNG, the
-# README and the licence, made by "cmake --build <dir> --target package". The program keeps
-# config.ini and go.bat beside itself, so everything lies flat in that one folder, and the user
-# unpacks it anywhere writable. Linux: Umbrakit-<version>-Linux.tar.gz on the system's Qt.
-# Windows: a ZIP of the same folder, with what windeployqt copies beside the program.
+# README, the licence and, in docs/, the user's guide with its pictures, made by
+# "cmake --build <dir> --target package". The program keeps config.ini and go.bat beside itself,
+# so it and its files lie flat in that one folder, and the user unpacks it anywhere writable.
+# Linux: Umbrakit-<version>-Linux.tar.gz on the system's Qt. Windows: a ZIP of the same folder,
+# with what windeployqt copies beside the program.
 
 # --version tells the version of project().
 set_property(SOURCE src/command_line.cpp APPEND PROPERTY
@@ -10,6 +11,14 @@ set_property(SOURCE src/command_line.cpp APPEND PROPERTY
 
 install(TARGETS umbrakit RUNTIME DESTINATION .)
 install(FILES README.md LICENSE DESTINATION .)
+# The level builder's documents, in docs/ as in the source so that the README's and the guide's
+# links hold; the developers' documents stay in the source.
+install(FILES docs/user-guide.md DESTINATION docs)
+if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/docs/screen-readers.md)
+    install(FILES docs/screen-readers.md DESTINATION docs)
+endif()
+install(DIRECTORY docs/images/ DESTINATION docs/images FILES_MATCHING PATTERN "*.png"
+    PATTERN screenshots_failure.png EXCLUDE) # left by a failed tools/screenshots
 
 if(UNIX AND NOT APPLE)
     # The packed entry starts "umbrakit" from the PATH; "umbrakit --install-desktop-entry"

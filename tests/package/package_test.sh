@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
 # The package as a user gets it. Builds the package target, unpacks the .tar.gz into a new
 # folder whose path holds a blank, and uses the program from there:
+#   - the package holds the program and its files, the README and the user's guide with its
+#     pictures, and not the developers' documents;
 #   - --version and --help answer without a display, an unknown option gets exit code 2;
 #   - the program finds every library, and the README's Install section names the Debian
 #     packages they come from;
@@ -77,17 +79,21 @@ name="Umbrakit-$version-Linux"
 tarball="$build/$name.tar.gz"
 [ -f "$tarball" ] || fail "the package target made no $tarball"
 
-expected="$name/LICENSE
-$name/README.md
-$name/umbrakit
-$name/umbrakit-256.png
-$name/umbrakit-32.png
-$name/umbrakit-48.png
-$name/umbrakit.desktop"
+# The program and its files, and the level builder's documents: the user's guide with every
+# picture it shows, and the screen reader guide where there is one. The developers' documents
+# stay in the source.
+guide_pictures=$(grep -o 'images/[a-z0-9-]*\.png' "$source/docs/user-guide.md" | sort -u)
+[ -n "$guide_pictures" ] || fail "docs/user-guide.md shows no pictures"
+expected=$({
+    printf '%s\n' LICENSE README.md umbrakit umbrakit-256.png umbrakit-32.png umbrakit-48.png \
+        umbrakit.desktop docs/user-guide.md
+    [ -f "$source/docs/screen-readers.md" ] && echo docs/screen-readers.md
+    sed 's|^|docs/|' <<<"$guide_pictures"
+} | sed "s|^|$name/|" | sort)
 listed=$(tar -tzf "$tarball" | grep -v '/$' | sort)
 [ "$(tar -tzf "$tarball" | cut -d/ -f1 | sort -u)" = "$name" ] && [ "$listed" = "$expected" ] ||
-    fail "the package holds other files than one folder with the program and its files:
-$listed"
+    fail "the package holds other files than one folder with the program, its files and the guide:
+$(diff <(echo "$expected") <(echo "$listed"))"
 
 unpacked="$work/my levels"
 mkdir -p "$unpacked"
@@ -96,6 +102,19 @@ folder="$unpacked/$name"
 program="$folder/umbrakit"
 [ -x "$program" ] || fail "the unpacked program is not executable"
 step "unpacked into $folder"
+
+# What the README and the guide show and link to in the package is there: their pictures, and
+# the guide the README sends the user to.
+for document in README.md docs/user-guide.md; do
+    for target in $(grep -o '](\(docs/\)\?\(images/[a-z0-9-]*\.png\|user-guide\.md\))' \
+        "$folder/$document" | sed 's/^](\(.*\))$/\1/' | sort -u); do
+        [ -f "$(dirname "$folder/$document")/$target" ] ||
+            fail "$document shows or links to $target, which the package lacks"
+    done
+done
+grep -q '](docs/user-guide.md)' "$folder/README.md" || fail "the packed README does not link to the guide"
+grep -q '](docs/images/main-window[a-z-]*\.png)' "$folder/README.md" ||
+    fail "the packed README shows no picture of the main window"
 
 # --- Without a display ---------------------------------------------------------------------
 # expect_output <what> <expected exit code> <expected standard output> <command...>
@@ -195,7 +214,7 @@ step "menu entry written, validated and removed, in ~/.local/share and in XDG_DA
 
 # --- On a display --------------------------------------------------------------------------
 exec 3>"$work/display"
-Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp >"$work/xvfb.log" 2>&1 &
+Xvfb -displayfd 3 -noreset -screen 0 1024x768x24 -nolisten tcp >"$work/xvfb.log" 2>&1 &
 pids+=($!)
 exec 3>&-
 until_true 10 test -s "$work/display" || fail "Xvfb did not start: $(cat "$work/xvfb.log")"
@@ -290,7 +309,7 @@ step "lmList.dat exported through the main window"
 quit "$main"
 until_true 10 not running "$pid" || fail "File, Exit did not end the program"
 left=$(cd "$folder" && ls -A | sort | tr '\n' ' ')
-[ "$left" = "LICENSE README.md config.ini lmList.dat umbrakit umbrakit-256.png umbrakit-32.png umbrakit-48.png umbrakit.desktop " ] ||
+[ "$left" = "LICENSE README.md config.ini docs lmList.dat umbrakit umbrakit-256.png umbrakit-32.png umbrakit-48.png umbrakit.desktop " ] ||
     fail "the folder holds other files than the package's, config.ini and lmList.dat: $left"
 step "the program ended through File, Exit"
 

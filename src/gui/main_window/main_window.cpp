@@ -121,8 +121,11 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     services.end();
 }
 
+// Outcomes alone are spoken: the progress texts stand only while a dialog opens, which the
+// screen reader speaks itself, and the return to "Ready." tells nothing new.
 void MainWindow::report(const QString& outcome) {
     statusLine->setSimpleText(outcome);
+    statusLine->announceSimpleText();
     statusTimer->setEnabled(true);
 }
 

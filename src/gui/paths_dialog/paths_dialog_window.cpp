@@ -50,6 +50,9 @@ PathsDialogWindow::PathsDialogWindow() : QDialog(nullptr, kFixedDialogFlags) {
     savedList = place(new ComboList(this), "SavedSettings", 1365, 0, 4215, 315);
     pathsFrame = place(new ClassicFrame("Paths", this), "Frame1", 0, 315, 6630, 2640);
     label(savedList, "Load Setting:", "Label5", 0, 1170, 330);
+    // On Linux a list without a box for typing is named by its chosen row; screen readers
+    // then give its caption as the description.
+    savedList->setAccessibleDescription("Load Setting");
 
     const char* const passCaptions[] = {"Generate &TerrainShadows", "&Merge TerrainShadows",
                                         "Generate &ObjectShadows"};

@@ -11,6 +11,7 @@
 #include "platform/combo_list.h"
 #include "platform/form_timer.h"
 #include "platform/menu_entry.h"
+#include "platform/spoken_notice.h"
 #include "support/test_app.h"
 
 using namespace umbrakit;
@@ -20,12 +21,18 @@ const QString kRunning = "Running batch lighting... You may exit.";
 const std::u32string kGame = U"D:\\Games\\BF1942";
 const QByteArray kOld = "@echo an earlier file\r\n@rem that must stay as it is\r\n";
 
-QString outcome(TestApp& app) { // status line, timer, boxes, starts
+// The text on the line is the last that screen readers were told as an outcome.
+bool told(TestApp& app) {
+    return app.window->statusLine->findChild<SpokenNotice*>()->accessibleName() == app.status();
+}
+
+QString outcome(TestApp& app) { // status line, timer, told, boxes, starts
     QStringList boxes;
     for (const AskedBox& box : app.dialogs.boxes)
         boxes << box.prompt.left(60);
-    return app.status() + (app.window->statusTimer->Enabled() ? " +timer" : "") + " | " +
-           boxes.join(" / ") + " | " + QString::number(app.launcher.started.size());
+    return app.status() + (app.window->statusTimer->Enabled() ? " +timer" : "") +
+           (told(app) ? " +told" : "") + " | " + boxes.join(" / ") + " | " +
+           QString::number(app.launcher.started.size());
 }
 } // namespace
 
@@ -35,7 +42,7 @@ class ExportAndLightingTest : public QObject {
     void exportWritesOneRecordPerTickedPatch() {
         TestApp app;
         app.window->exportEntry->trigger(); // the dialog answers no name
-        QCOMPARE(outcome(app), "Save Cancled. +timer |  | 0");
+        QCOMPARE(outcome(app), "Save Cancled. +timer +told |  | 0");
         app.window->statusTimer->setEnabled(false);
         app.write("lmList.dat", kOld);
         app.dialogs.fileAnswers << app.path("lmList.dat");
@@ -52,7 +59,7 @@ class ExportAndLightingTest : public QObject {
         app.dialogs.boxAnswers << MsgBoxAnswer::Yes;
         QTest::mouseClick(app.window->exportButton, Qt::LeftButton);
         QCOMPARE(app.bytesOf("lmList.dat"), QByteArray("\x00\x00\x05\x00\x03\x02\x0F\x0F", 8));
-        QCOMPARE(app.status(), QString("Saved!"));
+        QVERIFY(app.status() == "Saved!" && told(app));
         // complete beside the old list before it takes its place
         QCOMPARE(app.files.journal.constLast(),
                  "renameOver " + app.path("lmList.dat.tmp") + " " + app.path("lmList.dat"));
@@ -87,7 +94,7 @@ class ExportAndLightingTest : public QObject {
             QCOMPARE(app.files.journal.constLast(),
                      "renameOver " + app.path("go.bat.tmp") + " " + app.path("go.bat"));
             QCOMPARE(app.launcher.started, QStringList{app.path("go.bat")});
-            QCOMPARE(outcome(app), kRunning + " +timer |  | 1");
+            QCOMPARE(outcome(app), kRunning + " +timer +told |  | 1");
         }
     }
 
@@ -116,6 +123,7 @@ class ExportAndLightingTest : public QObject {
             app.window->goEntry->trigger();
             QCOMPARE(app.status(), c.status);
             QVERIFY(app.window->statusTimer->Enabled());
+            QCOMPARE(told(app), c.status == incomplete);
             const QString told = app.dialogs.boxes.value(0).prompt;
             QVERIFY2(told.contains(c.told) && (c.told.isEmpty() == told.isEmpty()),
                      qPrintable(told));
