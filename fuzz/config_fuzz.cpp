@@ -1,10 +1,8 @@
 // Feeds any bytes to the program as config.ini, the way a hand-edited, cut-off or damaged file
-// reaches it (lines without "=", CR without LF, NUL bytes, long lines, names repeated), and
-// checks what must hold whatever the file holds: what is listed, what a row loads, what a Save
-// and a Delete keep, and that a record the program writes loads back as written.
-//
-// Every check is a single pass or a lookup: the file is split once here, and the core's own
-// splits are the only further passes, so the fuzzer spends its time on new inputs.
+// reaches it (lines without "=", CR without LF, NUL bytes, names repeated, more than 30
+// records), and checks what must hold whatever the file holds: what is listed, what a row
+// loads, what a Save and a Delete keep, and that a record the program writes loads back as
+// written. The file is split once here; each further pass is one of the core's own.
 #include "core/config_rewrite.h"
 #include "core/config_walk.h"
 #include "core/number_text.h"
@@ -21,44 +19,29 @@ using umbrakit::fuzz::require;
 
 namespace {
 
-// A file full of heads is sampled at both ends, where the list begins and where its room ends:
-// loading a name costs the core a pass over the file.
+// A load costs the core a pass over the file, so of a file full of heads the names at both
+// ends are loaded: where the list begins and where its room ends.
 constexpr std::size_t kNamesLoadedAtEachEnd = 4;
 
-struct File {
-    std::string_view bytes;
-    std::vector<std::string> lines;
-    std::vector<std::size_t> heads; // the lines that pass the head test, records' or not
-};
-
-// wholeFile: the boxes are filled from the whole file. Otherwise from the record alone, its
-// head and the lines behind it, which loads the same values without another split of the file.
-void checkLoad(const File& file, const std::string& name, bool wholeFile) {
-    const std::vector<std::string>& lines = file.lines;
+// wholeFile: the boxes are filled from the whole file; otherwise from the record's own lines,
+// which load the same values without another split of the file.
+void checkLoad(std::string_view bytes, const std::vector<std::string>& lines,
+               const std::string& name, bool wholeFile) {
     const RecordValues loaded = findRecordValues(lines, name);
-    // An exact head holds "Save", so only the lines that pass the head test can be one.
-    const std::string exactHead = headFor(name);
-    const auto at = std::ranges::find_if(file.heads, [&](auto i) { return lines[i] == exactHead; });
-    require(loaded.found == (at != file.heads.end()), "found exactly when the exact head is there");
-    const std::size_t head = loaded.found ? *at : lines.size();
-    const std::size_t end = std::min(lines.size(), head + 1 + kValueLinesPerRecord);
-    // Only the seven lines behind the first exact head supply values; a later line overwrites
-    // an earlier one of the same key.
+    const auto at = std::ranges::find(lines, headFor(name));
+    require(loaded.found == (at != lines.end()), "found exactly when the exact head is there");
+    // Only the seven lines behind the first exact head supply values, a later line of a key
+    // overwriting an earlier one.
+    const auto end = at + std::min<std::ptrdiff_t>(lines.end() - at, 1 + kValueLinesPerRecord);
     RecordValues expected{loaded.found, {}};
-    for (std::size_t line = head + 1; line < end; ++line)
-        if (const std::optional<RecordKey> key = keyOfLine(lines[line]))
-            expected.values[std::size_t(*key)] = valueOfLine(lines[line]);
+    for (auto line = at + (at != end); line != end; ++line)
+        if (const std::optional<RecordKey> key = keyOfLine(*line))
+            expected.values[std::size_t(*key)] = valueOfLine(*line);
     require(loaded == expected, "a row loads the values of the lines behind its first head");
 
     // The boxes show every loaded text whole; a darkness that is a number as its number text.
     DialogEntries shown;
-    if (wholeFile)
-        showSaved(shown, file.bytes, name, kWestern);
-    else
-        showSaved(
-            shown,
-            joinLines({lines.begin() + std::ptrdiff_t(head), lines.begin() + std::ptrdiff_t(end)}),
-            name, kWestern);
+    showSaved(shown, wholeFile ? bytes : std::string_view(joinLines({at, end})), name, kWestern);
     const auto value = [&](RecordKey key) { return loaded.values[std::size_t(key)]; };
     const auto darkness = value(RecordKey::ShadowDarkness);
     const auto number = darkness ? textToNumber(*darkness) : std::nullopt;
@@ -116,38 +99,34 @@ void checkDelete(std::string_view bytes, const SavedNameTable& table,
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    File file{{reinterpret_cast<const char*>(data), size}, {}, {}};
-    file.lines = splitLines(file.bytes);
-    const std::vector<std::string>& lines = file.lines;
+    const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+    const std::vector<std::string> lines = splitLines(bytes);
     require(splitLines(joinLines(lines)) == lines, "lines survive a write and a read");
 
     const std::vector<std::string> names = readSavedNames(lines);
-    for (std::size_t i = 0; i < lines.size(); ++i)
-        if (isRecordHead(lines[i]))
-            file.heads.push_back(i);
+    const auto heads = std::ranges::count_if(lines, [](auto& line) { return isRecordHead(line); });
     // A record spans at most eight lines, so every head line lies in one of the records found.
-    require(file.heads.size() >= names.size() &&
-                file.heads.size() <= names.size() * (1 + kValueLinesPerRecord),
+    require(std::size_t(heads) >= names.size() &&
+                std::size_t(heads) <= names.size() * (1 + kValueLinesPerRecord),
             "a name for each record's head, and no head line left unwalked");
-    const SavedNameTable table{file.bytes};
+    const SavedNameTable table{bytes};
     std::vector<std::string> listed{std::string(kCurrentRow)};
     for (std::size_t i = 0; i < names.size() && i < std::size_t(kSavedNameCapacity); ++i)
         if (!names[i].empty())
             listed.push_back(names[i]);
     require(table.rows() == listed, "the list shows the first 30 names that are not empty");
 
-    std::set<std::string_view> seen;
-    std::vector<std::string_view> distinct;
-    for (const std::string& name : names)
+    std::vector<std::string> distinct;
+    for (std::set<std::string_view> seen; const std::string& name : names)
         if (seen.insert(name).second)
             distinct.push_back(name);
     for (std::size_t i = 0; i < distinct.size(); ++i)
         if (i < kNamesLoadedAtEachEnd || i + kNamesLoadedAtEachEnd >= distinct.size())
-            checkLoad(file, std::string(distinct[i]), i == 0);
+            checkLoad(bytes, lines, distinct[i], i == 0);
     if (!lines.empty())
-        checkLoad(file, lines.back(), true); // a name the file need not hold as a head
+        checkLoad(bytes, lines, lines.back(), true); // a name the file need not hold as a head
 
-    const std::string kept = rewriteConfig(file.bytes, table, std::nullopt);
+    const std::string kept = rewriteConfig(bytes, table, std::nullopt);
     const std::vector<std::string> keptLines = splitLines(kept);
     require(readSavedNames(keptLines) == names, "a rewrite keeps every name of the file");
     require(keptLines.size() == names.size() * (1 + kValueLinesPerRecord),
@@ -156,7 +135,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(rewriteConfig(kept, table, std::nullopt) == kept,
             "a rewritten file rewrites to itself");
 
-    checkSave(file.bytes, table, names);
-    checkDelete(file.bytes, table, names);
+    checkSave(bytes, table, names);
+    checkDelete(bytes, table, names);
     return 0;
 }
