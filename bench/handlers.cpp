@@ -1,105 +1,104 @@
-// Times the real handlers on the shown main window and prints the median and the 99th
-// percentile of each call, of the call less the time inside its file operations (which wait
-// for the disk to hold the file), and of the call with the repaint it causes; then the same
-// grid work on the bare window's plain check boxes, the toolkit's own share, and a file written
-// and flushed with plain system calls, the system's share.
-//   bench_handlers [--quick] [--iterations N] [--only TEXT]
-// --quick makes a few calls only, to see that everything still runs; --only keeps the cases
-// whose name holds TEXT, for a profile of one of them.
+// Times what the user does on the shown windows with Google Benchmark. Each repetition is one
+// call, so the median and the 99th percentile over the repetitions are those of single calls.
+// The preparation of a call, and the repaint and deferred deletes that the call before it left,
+// run with the timing paused. The counter file_us is the time the call spent in file
+// operations: the wait for the disk rather than the program's own work.
+//   bench_handlers --benchmark_repetitions=500 [--benchmark_filter=REGEX] [--benchmark_out=F]
+#include <benchmark/benchmark.h>
+
 #include <QApplication>
-#include <QStringList>
+#include <cmath>
 #include <cstdio>
 
 #include "bare_window.h"
-#include "bench_app.h"
-#include "handler_cases.h"
+#include "user_actions.h"
 
 namespace {
-using umbrakit::bench::HandlerCase;
+using umbrakit::bench::UserAction;
 
-constexpr double kMedianTargetUs = 1000;
-constexpr double kP99TargetUs = 5000;
+std::vector<std::string> failed; // the actions that did not do their work
 
-struct Options {
-    int iterations = 500;
-    QString only;
-};
-
-Options optionsOf(const QStringList& arguments) {
-    Options options;
-    for (qsizetype i = 1; i < arguments.size(); ++i) {
-        if (arguments[i] == "--quick")
-            options.iterations = 3;
-        else if (arguments[i] == "--iterations" && i + 1 < arguments.size())
-            options.iterations = std::max(1, arguments[++i].toInt());
-        else if (arguments[i] == "--only" && i + 1 < arguments.size())
-            options.only = arguments[++i];
+// Paints now what the last changes made dirty, in every shown window, as its next update would.
+void repaintDirty() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        QEvent update(QEvent::UpdateRequest);
+        if (window->isVisible())
+            QCoreApplication::sendEvent(window, &update);
     }
-    return options;
 }
 
-bool meetsTargets(double medianUs, double p99Us) {
-    return medianUs <= kMedianTargetUs && p99Us <= kP99TargetUs;
+void settle() {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    repaintDirty();
 }
 
-// A miss that the program's own work does not make is the disk's: flushing a file to it.
-const char* verdictOn(const umbrakit::bench::HandlerTiming& timing) {
-    if (meetsTargets(timing.medianUs, timing.p99Us))
-        return "met";
-    return meetsTargets(timing.ownMedianUs, timing.ownP99Us) ? "MISSED on the disk" : "MISSED";
+// Nearest rank: one call in a hundred takes longer.
+double percentile99(const std::vector<double>& samples) {
+    std::vector<double> sorted = samples;
+    const auto rank = sorted.begin() + std::ptrdiff_t(std::ceil(0.99 * double(sorted.size()))) - 1;
+    std::nth_element(sorted.begin(), rank, sorted.end());
+    return *rank;
 }
 
-// Prints a row for each case; false if a case did not do its work. Without targetsMet the
-// cases are yardsticks, measured but not judged.
-bool timeCases(const std::vector<HandlerCase>& cases, const Options& options,
-               const umbrakit::bench::TimedFileOps* files, bool* targetsMet) {
-    for (const HandlerCase& handler : cases) {
-        if (!handler.name.contains(options.only))
-            continue;
-        const auto timing = umbrakit::bench::timeHandler(handler, options.iterations, files);
-        if (const QString wrong = handler.check(); !wrong.isEmpty()) {
-            std::fprintf(stderr, "%s: %s\n", qPrintable(handler.name), qPrintable(wrong));
-            return false;
-        }
-        if (targetsMet)
-            *targetsMet = *targetsMet && meetsTargets(timing.medianUs, timing.p99Us);
-        std::printf("%-44s %8.1f %8.1f  %8.1f %8.1f  %8.1f %8.1f  %s\n", qPrintable(handler.name),
-                    timing.medianUs, timing.p99Us, timing.ownMedianUs, timing.ownP99Us,
-                    timing.repaintMedianUs, timing.repaintP99Us,
-                    targetsMet ? verdictOn(timing) : "yardstick");
+void timeAction(benchmark::State& state, const UserAction& action,
+                const umbrakit::bench::TimedFileOps& files, bool withRepaint) {
+    double fileUs = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        settle(); // what the call before left
+        if (action.prepare)
+            action.prepare();
+        settle();
+        const double fileUsBefore = files.spentUs();
+        state.ResumeTiming();
+        action.act();
+        if (withRepaint)
+            repaintDirty();
+        state.PauseTiming();
+        fileUs += files.spentUs() - fileUsBefore;
+        state.ResumeTiming();
     }
-    return true;
+    state.counters["file_us"] = benchmark::Counter(fileUs, benchmark::Counter::kAvgIterations);
+    settle();
+    if (!action.worked()) {
+        state.SkipWithError("the call did not do its work");
+        if (failed.empty() || failed.back() != action.name)
+            failed.push_back(action.name);
+    }
 }
 } // namespace
 
 int main(int argc, char* argv[]) {
+    benchmark::Initialize(&argc, argv);
     QApplication app(argc, argv);
-    const Options options = optionsOf(app.arguments());
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 2;
     umbrakit::bench::BenchApp bench;
-    if (!bench.dir.isValid()) {
-        std::fprintf(stderr, "no temporary folder\n");
-        return 1;
-    }
     const auto bare = umbrakit::bench::makeBareWindow();
     bare->show();
-    QApplication::processEvents();
 
-    std::vector<HandlerCase> cases = umbrakit::bench::mainWindowCases(bench);
-    for (HandlerCase& dialogCase : umbrakit::bench::pathsDialogCases(bench))
-        cases.push_back(std::move(dialogCase));
-
-    std::printf("%d calls each; times in microseconds; targets: median <= %.0f, p99 <= %.0f\n",
-                options.iterations, kMedianTargetUs, kP99TargetUs);
-    std::printf("%-44s %17s  %17s  %17s\n", "", "the call", "less file ops", "with repaint");
-    std::printf("%-44s %8s %8s  %8s %8s  %8s %8s  %s\n", "handler", "median", "p99", "median",
-                "p99", "median", "p99", "target");
-    bool targetsMet = true;
-    if (!timeCases(cases, options, &bench.files, &targetsMet))
-        return 1;
-    std::printf("handler targets %s\n", targetsMet ? "met" : "MISSED");
-
-    std::vector<HandlerCase> reference = umbrakit::bench::bareWindowCases(*bare);
-    for (HandlerCase& systemCase : umbrakit::bench::systemCases(bench.dir.path()))
-        reference.push_back(std::move(systemCase));
-    return timeCases(reference, options, nullptr, nullptr) ? 0 : 1;
+    std::vector<UserAction> actions = umbrakit::bench::mainWindowActions(bench);
+    for (auto& more :
+         {umbrakit::bench::pathsDialogActions(bench), umbrakit::bench::yardsticks(*bare)})
+        actions.insert(actions.end(), more.begin(), more.end());
+    const auto add = [&bench](const UserAction& action, const std::string& name, bool repaint) {
+        const auto time = [&action, &bench, repaint](benchmark::State& state) {
+            timeAction(state, action, bench.files, repaint);
+        };
+        benchmark::RegisterBenchmark(name.c_str(), time)
+            ->Iterations(1)
+            ->Unit(benchmark::kMicrosecond)
+            ->ComputeStatistics("p99", percentile99);
+    };
+    for (const UserAction& action : actions) {
+        add(action, action.name, false);
+        if (action.repaints)
+            add(action, action.name + " + repaint", true);
+    }
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    for (const std::string& name : failed)
+        std::fprintf(stderr, "%s: the call did not do its work\n", name.c_str());
+    return failed.empty() ? 0 : 1;
 }

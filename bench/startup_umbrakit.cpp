@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "gui/main_window/main_window.h"
+#include "platform/bundled_fonts.h"
 #include "platform/disk_file_ops.h"
 #include "platform/qt_dialogs.h"
 #include "platform/system_launcher.h"
@@ -12,6 +13,7 @@
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
+    umbrakit::installBundledFonts();
     const QTemporaryDir appPath;
     umbrakit::DiskFileOps files;
     umbrakit::QtDialogs dialogs;

@@ -1,5 +1,5 @@
-// The real file operations, timed: how much of a handler's time is spent waiting on the disk
-// (flushing a file to it above all) rather than in the program's own work.
+// The real file operations with the time spent in them counted: how much of a handler's time
+// is the wait for the disk (the flush of a file above all) rather than the program's own work.
 #pragma once
 
 #include <chrono>
@@ -11,7 +11,6 @@ namespace umbrakit::bench {
 
 class TimedFileOps : public FileOps {
   public:
-    // Time spent inside the file operations so far, in microseconds.
     double spentUs() const { return std::chrono::duration<double, std::micro>(spent_).count(); }
 
     bool exists(const QString& path) override {

@@ -1,6 +1,6 @@
 // What both start-up programs do once their window is shown: wait for its first real paint
-// and end; with "--idle SECONDS", first let the event loop run that long and print how often
-// the process woke up meanwhile.
+// and end. With "--idle SECONDS" they first let the event loop run that long and print, as
+// JSON, how often the process woke up meanwhile.
 #pragma once
 
 class QWidget;

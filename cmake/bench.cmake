@@ -1,18 +1,20 @@
 # Benchmarks (bench/): the start-up of the main window against a bare Qt window with the same
-# widgets, the handlers one call at a time, and the wake-ups of an idle window. bench/run
-# builds them in Release and runs them; the tests below only run each once, briefly, so that
-# they keep building and working. No test times anything.
+# widgets (timed by hyperfine, peak memory by GNU time), what the user does on the windows
+# (Google Benchmark), and the wake-ups of an idle window. bench/run builds them in Release and
+# runs them; the test below runs each once, briefly, so that they keep building and working.
+# No test judges a time.
 
-# Peak memory comes from wait4 and wake-ups from /proc: Linux only.
+# The wake-ups of one thread (RUSAGE_THREAD) and GNU time: Linux only.
 if(NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
     return()
 endif()
+find_package(benchmark QUIET)
+if(NOT benchmark_FOUND)
+    message(STATUS "No Google Benchmark (libbenchmark-dev): the benchmarks are left out")
+    return()
+endif()
 
-add_executable(bench_measure bench/measure.cpp)
-set_target_properties(bench_measure PROPERTIES AUTOMOC OFF AUTORCC OFF)
-
-add_library(bench_window_run STATIC bench/window_run.cpp bench/window_run.h
-    bench/idle_wakeups.cpp bench/idle_wakeups.h)
+add_library(bench_window_run STATIC bench/window_run.cpp bench/window_run.h)
 target_link_libraries(bench_window_run PUBLIC Qt6::Widgets)
 
 add_executable(bench_startup_umbrakit bench/startup_umbrakit.cpp)
@@ -22,22 +24,17 @@ add_executable(bench_startup_bare bench/startup_bare.cpp bench/bare_window.cpp
     bench/bare_window.h)
 target_link_libraries(bench_startup_bare PRIVATE bench_window_run)
 
-add_executable(bench_handlers bench/handlers.cpp bench/handler_timer.cpp
-    bench/main_window_cases.cpp bench/paths_dialog_cases.cpp bench/bare_window_cases.cpp
-    bench/system_cases.cpp bench/bare_window.cpp)
-# The handlers' boxes are answered as the tests answer them.
+add_executable(bench_handlers bench/handlers.cpp bench/user_actions.h bench/timed_file_ops.h
+    bench/main_window_actions.cpp bench/paths_dialog_actions.cpp bench/yardsticks.cpp
+    bench/bare_window.cpp)
+# The boxes and file dialogs are answered as the tests answer them.
 target_include_directories(bench_handlers PRIVATE tests)
-target_link_libraries(bench_handlers PRIVATE umbrakit_gui)
+target_link_libraries(bench_handlers PRIVATE umbrakit_gui benchmark::benchmark)
 
-add_custom_target(bench DEPENDS
-    bench_measure bench_startup_umbrakit bench_startup_bare bench_handlers)
+add_custom_target(bench DEPENDS bench_startup_umbrakit bench_startup_bare bench_handlers)
 
 if(BUILD_TESTING)
-    add_test(NAME bench_startup COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/bench/startup.sh
-        --runs 1 --bin $<TARGET_FILE_DIR:bench_measure>)
-    add_test(NAME bench_idle_umbrakit COMMAND bench_startup_umbrakit --idle 0.2)
-    add_test(NAME bench_idle_bare COMMAND bench_startup_bare --idle 0.2)
-    add_test(NAME bench_handlers COMMAND bench_handlers --quick)
-    set_tests_properties(bench_startup bench_idle_umbrakit bench_idle_bare bench_handlers
-        PROPERTIES LABELS bench ENVIRONMENT "QT_QPA_PLATFORM=offscreen" TIMEOUT 120)
+    add_test(NAME bench COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/bench/run --quick
+        --bin $<TARGET_FILE_DIR:bench_handlers>)
+    set_tests_properties(bench PROPERTIES LABELS bench TIMEOUT 120)
 endif()

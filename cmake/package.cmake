@@ -11,6 +11,9 @@ set_property(SOURCE src/command_line.cpp APPEND PROPERTY
 
 install(TARGETS umbrakit RUNTIME DESTINATION .)
 install(FILES README.md LICENSE DESTINATION .)
+if(UMBRAKIT_BUNDLED_FONT) # cmake/fonts.cmake
+    install(FILES packaging/LiberationSans-LICENSE.txt DESTINATION .)
+endif()
 # The level builder's documents, in docs/ as in the source so that the README's and the guide's
 # links hold; the developers' documents stay in the source.
 install(FILES docs/user-guide.md DESTINATION docs)

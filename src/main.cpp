@@ -4,6 +4,7 @@
 #include "command_line.h"
 #include "gui/main_window/main_window.h"
 #include "gui/main_window/program_folder_notice.h"
+#include "platform/bundled_fonts.h"
 #include "platform/disk_file_ops.h"
 #include "platform/qt_dialogs.h"
 #include "platform/system_launcher.h"
@@ -12,6 +13,7 @@ int main(int argc, char* argv[]) {
     if (const std::optional<int> exitCode = umbrakit::runCommandLine(argc, argv))
         return *exitCode;
     QApplication app(argc, argv);
+    umbrakit::installBundledFonts();
     umbrakit::DiskFileOps files;
     umbrakit::QtDialogs dialogs;
     umbrakit::SystemLauncher launcher;

@@ -1,6 +1,8 @@
 #include "core/ansi_text.h"
 
 #include <array>
+#include <cstdio>
+#include <cstring>
 
 #ifdef _WIN32
 #include <windows.h>
@@ -229,6 +231,17 @@ std::optional<char32_t> firstUnwritable(std::u32string_view text, CodePage codeP
         if (!toAnsi(text.substr(i, 1), codePage))
             return text[i];
     return std::nullopt;
+}
+
+std::u32string characterForMessage(char32_t c) {
+    const bool showsNothing = c < 0x20 || (c >= 0x7F && c <= 0x9F) ||
+                              (c >= 0x200B && c <= 0x200F) || c == 0x2028 || c == 0x2029 ||
+                              c == 0xFEFF;
+    if (!showsNothing)
+        return std::u32string(1, c);
+    char name[8];
+    std::snprintf(name, sizeof name, "U+%04X", unsigned(c));
+    return std::u32string(name, name + std::strlen(name));
 }
 
 } // namespace umbrakit

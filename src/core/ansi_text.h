@@ -29,4 +29,8 @@ std::u32string fromAnsi(std::string_view bytes, CodePage codePage);
 // The first character of text that the code page cannot hold, for telling the user.
 std::optional<char32_t> firstUnwritable(std::u32string_view text, CodePage codePage);
 
+// The character as a message shows it: itself, or "U+0085" for one that shows nothing (a
+// control character, a zero-width one), which between quotes would look like none at all.
+std::u32string characterForMessage(char32_t c);
+
 } // namespace umbrakit

@@ -47,93 +47,143 @@ SystemResult systemError() {
     return {false, std::strerror(errno)};
 }
 
-// A rename reaches the disk only with its folder; without this a power cut could bring back
-// the old file after the user was told the new one is saved.
-void flushFolder(const std::filesystem::path& folder) {
-    const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY);
-    if (handle >= 0) {
-        ::fsync(handle);
-        ::close(handle);
+#endif
+
+#ifdef _WIN32
+
+class WindowsFiles : public SystemFiles {
+  public:
+    SystemResult create(const std::filesystem::path& path, Handle& file) override {
+        const HANDLE handle = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                          FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (handle == INVALID_HANDLE_VALUE)
+            return systemError();
+        file = reinterpret_cast<Handle>(handle);
+        return {};
     }
-}
+    SystemResult write(Handle file, std::string_view bytes) override {
+        std::size_t written = 0;
+        while (written < bytes.size()) {
+            DWORD now = 0;
+            const DWORD chunk = DWORD(std::min<std::size_t>(bytes.size() - written, 1u << 30));
+            if (!WriteFile(handleOf(file), bytes.data() + written, chunk, &now, nullptr) ||
+                now == 0)
+                return systemError();
+            written += now;
+        }
+        return {};
+    }
+    SystemResult flush(Handle file) override {
+        return FlushFileBuffers(handleOf(file)) ? SystemResult{} : systemError();
+    }
+    SystemResult close(Handle file) override {
+        return CloseHandle(handleOf(file)) ? SystemResult{} : systemError();
+    }
+    SystemResult rename(const std::filesystem::path& from,
+                        const std::filesystem::path& to) override {
+        SystemResult result;
+        for (int attempt = 0; attempt < 20; ++attempt) {
+            if (MoveFileExW(from.c_str(), to.c_str(),
+                            MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+                return {};
+            const DWORD error = GetLastError();
+            result = systemError();
+            if (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION &&
+                error != ERROR_LOCK_VIOLATION)
+                break;
+            std::this_thread::sleep_for(std::chrono::milliseconds(100));
+        }
+        return result;
+    }
+    // MOVEFILE_WRITE_THROUGH has flushed the rename with its folder.
+    void flushFolder(const std::filesystem::path&) override {}
+
+  private:
+    static HANDLE handleOf(Handle file) { return reinterpret_cast<HANDLE>(file); }
+};
+
+#else
+
+class PosixFiles : public SystemFiles {
+  public:
+    SystemResult create(const std::filesystem::path& path, Handle& file) override {
+        const int handle = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+        if (handle < 0)
+            return systemError();
+        file = handle;
+        return {};
+    }
+    SystemResult write(Handle file, std::string_view bytes) override {
+        std::size_t written = 0;
+        while (written < bytes.size()) {
+            const ssize_t now = ::write(int(file), bytes.data() + written, bytes.size() - written);
+            if (now < 0 && errno == EINTR)
+                continue;
+            if (now <= 0)
+                return systemError();
+            written += std::size_t(now);
+        }
+        return {};
+    }
+    SystemResult flush(Handle file) override {
+        return ::fsync(int(file)) == 0 ? SystemResult{} : systemError();
+    }
+    SystemResult close(Handle file) override {
+        return ::close(int(file)) == 0 ? SystemResult{} : systemError();
+    }
+    SystemResult rename(const std::filesystem::path& from,
+                        const std::filesystem::path& to) override {
+        return std::rename(from.c_str(), to.c_str()) == 0 ? SystemResult{} : systemError();
+    }
+    // A rename reaches the disk only with its folder; without this a power cut could bring
+    // back the old file after the user was told the new one is saved.
+    void flushFolder(const std::filesystem::path& folder) override {
+        const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY);
+        if (handle >= 0) {
+            ::fsync(handle);
+            ::close(handle);
+        }
+    }
+};
 
 #endif
 
 } // namespace
 
+SystemFiles& systemFiles() {
+#ifdef _WIN32
+    static WindowsFiles files;
+#else
+    static PosixFiles files;
+#endif
+    return files;
+}
+
 SystemResult lastSystemError() {
     return systemError();
 }
 
-#ifdef _WIN32
+SystemResult writeDurably(const std::filesystem::path& path, std::string_view bytes,
+                          SystemFiles& files) {
+    SystemFiles::Handle file = 0;
+    SystemResult result = files.create(path, file);
+    if (!result)
+        return result;
+    result = files.write(file, bytes);
+    if (result)
+        result = files.flush(file);
+    const SystemResult closed = files.close(file);
+    return result ? closed : result;
+}
 
-SystemResult writeDurably(const std::filesystem::path& path, std::string_view bytes) {
-    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                    FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-        return systemError();
-    std::size_t written = 0;
-    while (written < bytes.size()) {
-        DWORD now = 0;
-        const DWORD chunk = DWORD(std::min<std::size_t>(bytes.size() - written, 1u << 30));
-        if (!WriteFile(file, bytes.data() + written, chunk, &now, nullptr) || now == 0)
-            break;
-        written += now;
-    }
-    SystemResult result;
-    if (written < bytes.size() || !FlushFileBuffers(file))
-        result = systemError();
-    CloseHandle(file);
+// The folder follows the rename before the caller hears that the file is saved.
+SystemResult renameOver(const std::filesystem::path& from, const std::filesystem::path& to,
+                        SystemFiles& files) {
+    const SystemResult result = files.rename(from, to);
+    if (result)
+        files.flushFolder(to.parent_path().empty() ? std::filesystem::path(".") : to.parent_path());
     return result;
 }
-
-SystemResult renameOver(const std::filesystem::path& from, const std::filesystem::path& to) {
-    SystemResult result;
-    for (int attempt = 0; attempt < 20; ++attempt) {
-        if (MoveFileExW(from.c_str(), to.c_str(),
-                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-            return {};
-        const DWORD error = GetLastError();
-        result = systemError();
-        if (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION &&
-            error != ERROR_LOCK_VIOLATION)
-            break;
-        std::this_thread::sleep_for(std::chrono::milliseconds(100));
-    }
-    return result;
-}
-
-#else
-
-SystemResult writeDurably(const std::filesystem::path& path, std::string_view bytes) {
-    const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-    if (file < 0)
-        return systemError();
-    std::size_t written = 0;
-    while (written < bytes.size()) {
-        const ssize_t now = ::write(file, bytes.data() + written, bytes.size() - written);
-        if (now < 0 && errno == EINTR)
-            continue;
-        if (now <= 0)
-            break;
-        written += std::size_t(now);
-    }
-    SystemResult result;
-    if (written < bytes.size() || ::fsync(file) != 0)
-        result = systemError();
-    if (::close(file) != 0 && result)
-        result = systemError();
-    return result;
-}
-
-SystemResult renameOver(const std::filesystem::path& from, const std::filesystem::path& to) {
-    if (std::rename(from.c_str(), to.c_str()) != 0)
-        return systemError();
-    flushFolder(to.parent_path().empty() ? std::filesystem::path(".") : to.parent_path());
-    return {};
-}
-
-#endif
 
 bool isMarkedReadOnly(const std::filesystem::path& path) {
     std::error_code error;

@@ -3,6 +3,7 @@
 // elsewhere alike.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -15,13 +16,34 @@ struct SystemResult {
     explicit operator bool() const { return ok; }
 };
 
+// The system's file calls that saving a file is made of, one step each, so that a test can
+// watch them happen and in which order. systemFiles() makes the real calls.
+class SystemFiles {
+  public:
+    using Handle = std::intptr_t;
+    virtual ~SystemFiles() = default;
+    // Creates or truncates the file for writing.
+    virtual SystemResult create(const std::filesystem::path& path, Handle& file) = 0;
+    virtual SystemResult write(Handle file, std::string_view bytes) = 0; // all of them
+    virtual SystemResult flush(Handle file) = 0;                         // to the disk
+    virtual SystemResult close(Handle file) = 0;
+    // Replaces `to` in one step; its folder still has to reach the disk.
+    virtual SystemResult rename(const std::filesystem::path& from,
+                                const std::filesystem::path& to) = 0;
+    virtual void flushFolder(const std::filesystem::path& folder) = 0;
+};
+
+SystemFiles& systemFiles();
+
 // Creates or truncates the file, writes all bytes and flushes them to the disk.
-SystemResult writeDurably(const std::filesystem::path& path, std::string_view bytes);
+SystemResult writeDurably(const std::filesystem::path& path, std::string_view bytes,
+                          SystemFiles& files = systemFiles());
 
 // Puts `from` in the place of `to` in one step, so that `to` is either the whole old file or
-// the whole new one, and flushes the change to the disk. On Windows a file held for a moment
-// by a virus scanner or an indexer is tried again a few times.
-SystemResult renameOver(const std::filesystem::path& from, const std::filesystem::path& to);
+// the whole new one, and flushes the change to the disk before it returns. On Windows a file
+// held for a moment by a virus scanner or an indexer is tried again a few times.
+SystemResult renameOver(const std::filesystem::path& from, const std::filesystem::path& to,
+                        SystemFiles& files = systemFiles());
 
 // The system's reason why its last call failed.
 SystemResult lastSystemError();

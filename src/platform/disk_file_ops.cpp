@@ -4,7 +4,6 @@
 #include <QFileInfo>
 #include <filesystem>
 
-#include "core/durable_files.h"
 #include "platform/writable_folder.h"
 
 namespace umbrakit {
@@ -56,8 +55,8 @@ FileResult DiskFileOps::remove(const QString& path) {
 FileResult DiskFileOps::writeNew(const QString& path, const QByteArray& bytes) {
     if (isInReadOnlyFolder(path))
         return FileResult::failure(kReadOnlyFolder);
-    return resultOf(writeDurably(nativePath(path),
-                                 std::string_view(bytes.constData(), std::size_t(bytes.size()))));
+    return resultOf(writeDurably(
+        nativePath(path), std::string_view(bytes.constData(), std::size_t(bytes.size())), system_));
 }
 
 FileResult DiskFileOps::renameOver(const QString& from, const QString& to) {
@@ -65,7 +64,7 @@ FileResult DiskFileOps::renameOver(const QString& from, const QString& to) {
         return FileResult::failure(kReadOnly);
     if (isInReadOnlyFolder(to))
         return FileResult::failure(kReadOnlyFolder);
-    return resultOf(umbrakit::renameOver(nativePath(from), nativePath(to)));
+    return resultOf(umbrakit::renameOver(nativePath(from), nativePath(to), system_));
 }
 
 } // namespace umbrakit

@@ -3,6 +3,7 @@
 #include "core/config_format.h"
 #include "core/config_rewrite.h"
 #include "core/config_walk.h"
+#include "core/saved_settings.h"
 #include "core/text_lines.h"
 
 #include <doctest/doctest.h>
@@ -91,5 +92,42 @@ TEST_CASE("hand-edited files are read by position") {
             findRecordValues(splitLines(fileOf({rec("d", "gamePath"), rec("d", "2")})), "d");
         CHECK(get(v, RecordKey::GamePath) == "gamePath");
         CHECK_FALSE(get(v, RecordKey::LevelName));
+    }
+}
+
+// A head is any line holding "Save", as config.ini has always been read: a head edited by hand
+// with a blank or other text before "[Save=" is listed, loaded only by its exact text, and kept
+// byte for byte, or deleted whole, by every rewrite.
+TEST_CASE("heads that do not start their line") {
+    const std::string values = fileOf({{"x", "D:\\BF", "l", "m", {}, "1"}}).substr(10);
+    const struct {
+        const char* head;
+        const char* name; // its row, if any
+        bool kept;        // by a rewrite of other records
+    } heads[] = {{" [Save=a]", "a", true},    {"\t[Save=a]", "a", true},
+                 {"old [Save=a]", "a", true}, {"[Save=a] ", "a]", true},
+                 {"Saved=b]", "b", true},     {"x[Save=Save=c]", "Save=c", true},
+                 {"Save it", nullptr, true},  {"[save=a]", nullptr, false},
+                 {"[SAVE=a]", nullptr, false}};
+    for (const auto& [head, name, kept] : heads) {
+        CAPTURE(head);
+        const std::string odd = std::string(head) + "\r\n" + values;
+        const std::string file = fileOf({rec("first")}) + odd + fileOf({rec("last")});
+        const SavedNameTable names(file);
+        std::vector<std::string> listed{"(Current)", "first"};
+        if (name)
+            listed.push_back(name);
+        listed.push_back("last");
+        CHECK(names.rows() == listed);
+        const std::string keptLines = kept ? odd : "";
+        CHECK(std::get<Rewrite>(planSave(names, rec("new"), file)).configBytes ==
+              fileOf({rec("first")}) + keptLines + fileOf({rec("last"), rec("new")}));
+        CHECK(std::get<Rewrite>(planDelete(names, int(listed.size()) - 1, file)).configBytes ==
+              fileOf({rec("first")}) + keptLines);
+        if (name) { // its own Delete takes all eight lines; loading needs the exact head
+            CHECK(std::get<Rewrite>(planDelete(names, 2, file)).configBytes ==
+                  fileOf({rec("first"), rec("last")}));
+            CHECK_FALSE(findRecordValues(splitLines(file), name).found);
+        }
     }
 }

@@ -85,8 +85,8 @@ tarball="$build/$name.tar.gz"
 guide_pictures=$(grep -o 'images/[a-z0-9-]*\.png' "$source/docs/user-guide.md" | sort -u)
 [ -n "$guide_pictures" ] || fail "docs/user-guide.md shows no pictures"
 expected=$({
-    printf '%s\n' LICENSE README.md umbrakit umbrakit-256.png umbrakit-32.png umbrakit-48.png \
-        umbrakit.desktop docs/user-guide.md
+    printf '%s\n' LICENSE LiberationSans-LICENSE.txt README.md umbrakit umbrakit-256.png \
+        umbrakit-32.png umbrakit-48.png umbrakit.desktop docs/user-guide.md
     [ -f "$source/docs/screen-readers.md" ] && echo docs/screen-readers.md
     sed 's|^|docs/|' <<<"$guide_pictures"
 } | sed "s|^|$name/|" | sort)
@@ -309,7 +309,7 @@ step "lmList.dat exported through the main window"
 quit "$main"
 until_true 10 not running "$pid" || fail "File, Exit did not end the program"
 left=$(cd "$folder" && ls -A | sort | tr '\n' ' ')
-[ "$left" = "LICENSE README.md config.ini docs lmList.dat umbrakit umbrakit-256.png umbrakit-32.png umbrakit-48.png umbrakit.desktop " ] ||
+[ "$left" = "LICENSE LiberationSans-LICENSE.txt README.md config.ini docs lmList.dat umbrakit umbrakit-256.png umbrakit-32.png umbrakit-48.png umbrakit.desktop " ] ||
     fail "the folder holds other files than the package's, config.ini and lmList.dat: $left"
 step "the program ended through File, Exit"
 

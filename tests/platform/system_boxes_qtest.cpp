@@ -1,9 +1,10 @@
 // The real message box, answered by clicking it, and the real disk operations on a temporary
-// folder. The real file dialog is driven by the package test.
+// folder, their system calls watched. The real file dialog is driven by the package test.
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QtTest>
+#include <map>
 
 #include "platform/disk_file_ops.h"
 #include "platform/qt_dialogs.h"
@@ -19,6 +20,45 @@ template <typename Window> void whenShown(std::function<void(Window*)> answer) {
         answer(qobject_cast<Window*>(QApplication::activeModalWidget()));
     });
 }
+// The real system calls, each written down as it is made ("flush config.tmp"); the one named
+// in `failing` fails instead.
+class WatchedSystemFiles : public SystemFiles {
+  public:
+    using Path = std::filesystem::path;
+    QStringList calls;
+    QString failing;
+
+    SystemResult create(const Path& path, Handle& file) override {
+        return step("create", path, [&] {
+            const SystemResult result = real_.create(path, file);
+            names_[file] = path;
+            return result;
+        });
+    }
+    SystemResult write(Handle f, std::string_view bytes) override {
+        return step("write", names_[f], [&] { return real_.write(f, bytes); });
+    }
+    SystemResult flush(Handle f) override {
+        return step("flush", names_[f], [&] { return real_.flush(f); });
+    }
+    SystemResult close(Handle f) override {
+        return step("close", names_[f], [&] { return real_.close(f); });
+    }
+    SystemResult rename(const Path& from, const Path& to) override {
+        return step("rename", from, [&] { return real_.rename(from, to); });
+    }
+    void flushFolder(const Path& folder) override {
+        step("flushFolder", folder, [&] { return real_.flushFolder(folder), SystemResult{}; });
+    }
+
+  private:
+    SystemResult step(const QString& what, const Path& path, auto call) {
+        calls << what + ' ' + QString::fromStdString(path.filename().string());
+        return what == failing ? SystemResult{false, "Injected failure."} : call();
+    }
+    SystemFiles& real_ = systemFiles();
+    std::map<Handle, Path> names_;
+};
 } // namespace
 
 class SystemBoxesTest : public QObject {
@@ -72,6 +112,38 @@ class SystemBoxesTest : public QObject {
         QCOMPARE(QDir(dir.path()).entryList(QDir::Files), QStringList{"config.ini"});
         QByteArray bytes;
         QVERIFY(disk.read(config, bytes) && bytes == "kept");
+    }
+
+    // The new file is on the disk, then put in place, then its folder is: all before the save
+    // is reported done. A step that fails leaves config.ini as it was.
+    void aSaveIsOnTheDiskBeforeItIsReportedDone() {
+        const QStringList written{"create config.tmp", "write config.tmp", "flush config.tmp",
+                                  "close config.tmp"};
+        const struct {
+            const char* failing;
+            QStringList calls;
+        } cases[] = {{"", written + QStringList{"rename config.tmp", "flushFolder"}},
+                     {"write", {"create config.tmp", "write config.tmp", "close config.tmp"}},
+                     {"flush", written},
+                     {"rename", written + QStringList{"rename config.tmp"}}};
+        for (const auto& [failing, calls] : cases) {
+            QTemporaryDir dir;
+            const QString config = dir.filePath("config.ini"), temp = dir.filePath("config.tmp");
+            DiskFileOps real;
+            QVERIFY(replaceWhole(real, config, temp, "old"));
+            WatchedSystemFiles system;
+            system.failing = failing;
+            DiskFileOps disk(system);
+            const bool done = bool(replaceWhole(disk, config, temp, "new"));
+            QStringList expected = calls;
+            if (expected.last() == "flushFolder")
+                expected.last() += ' ' + QFileInfo(dir.path()).fileName();
+            QCOMPARE(system.calls, expected);
+            QCOMPARE(done, QString(failing).isEmpty());
+            QByteArray bytes;
+            QVERIFY(disk.read(config, bytes) && bytes == (done ? "new" : "old"));
+            QVERIFY(!QFile::exists(temp));
+        }
     }
 };
 

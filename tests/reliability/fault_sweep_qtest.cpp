@@ -1,13 +1,17 @@
 // Every file operation of every command that writes a file fails in turn, until a run
 // completes. After each failure the user has been told, the kept files are byte for byte what
-// they were, no temporary file is left and the windows are as before.
+// they were, no temporary file is left and the windows are as before. Then the user goes on
+// working after failures, and nothing saved is lost.
 #include <QDir>
 #include <QFileInfo>
 #include <QtTest>
 #include <functional>
 
+#include "core/config_walk.h"
+#include "core/text_lines.h"
 #include "gui/main_window/patch_grid.h"
 #include "platform/form_timer.h"
+#include "platform/qt_text.h"
 #include "support/dialog_driver.h"
 
 using namespace umbrakit;
@@ -91,6 +95,17 @@ QStringList problemsAfter(TestApp& app, const Command& c, bool failed) {
         found << "state " + state;
     return found;
 }
+// The records of config.ini as the readers see them: each name and the level its row loads.
+using Records = QList<QPair<QString, QString>>;
+Records recordsIn(const QByteArray& bytes) {
+    const std::vector<std::string> lines = splitLines(bytes.toStdString());
+    Records records;
+    for (const std::string& name : readSavedNames(lines)) {
+        const auto level = findRecordValues(lines, name).values[int(RecordKey::LevelName)];
+        records.append({QString::fromStdString(name), QString::fromStdString(level.value_or("?"))});
+    }
+    return records;
+}
 } // namespace
 
 class FaultSweepTest : public QObject {
@@ -111,11 +126,13 @@ class FaultSweepTest : public QObject {
                 app.files.failAt = failAt;
                 c.run(app);
                 const bool failed = app.files.operations >= failAt;
-                if (const QStringList problems = problemsAfter(app, c, failed); !problems.isEmpty()) {
+                if (const QStringList problems = problemsAfter(app, c, failed);
+                    !problems.isEmpty()) {
                     ++failures;
-                    qWarning("%s, %s: %s", c.name,
-                             qPrintable(failed ? app.files.journal.value(failAt - 1) : "no failure"),
-                             qPrintable(problems.join("; ")));
+                    qWarning(
+                        "%s, %s: %s", c.name,
+                        qPrintable(failed ? app.files.journal.value(failAt - 1) : "no failure"),
+                        qPrintable(problems.join("; ")));
                 }
                 if (!failed)
                     break;
@@ -124,6 +141,81 @@ class FaultSweepTest : public QObject {
             qInfo("%s: %d injection points, %d failures", c.name, points, failures);
             QVERIFY(points >= c.fewestPoints);
             QCOMPARE(failures, 0);
+        }
+    }
+
+    // After a failed Save or Delete the user goes on: saves, deletes, loads, OK. Whatever was
+    // saved is never lost, and after every step the list shows the names of config.ini, in
+    // its order. A step is "[fault:]command [name [level]]", the fault a full disk, a locked or
+    // a read-only config.ini, or one that cannot be read.
+    void theUserGoesOnAfterAFailure() {
+        const char* const sequences[] = {
+            "full:save New N1, save New N2, load New, delete Wake, ok, load New",
+            "locked:delete Midway, delete Midway, save Midway M2, readonly:save Berlin B2, "
+            "load Berlin, ok",
+            "readonly:delete Wake, save Extra X, full:delete Extra, load Wake, delete Extra, ok",
+            "unreadable:save Wake W2, load Wake, save Wake W3, locked:save Zulu Z, delete Berlin",
+            "load Midway, full:save Midway M9, load Midway, ok, locked:save Midway M3, "
+            "delete Midway, save Midway M4",
+            "unreadable:open, save New N, full:save Wake W2, load Wake, ok",
+            "locked:save A A1, readonly:delete Berlin, full:save B B1, unreadable:delete Wake, "
+            "save C C1, load Midway, ok"};
+        const QMap<QString, QString> failing{
+            {"full", "writeNew"}, {"locked", "renameOver"}, {"unreadable", "read"}};
+        for (const char* sequence : sequences) {
+            TestApp app;
+            app.setPaths(U"C:\\BF", U"Current", U"BF1942");
+            app.write("config.ini", kWake + kMidway + kBerlin);
+            const QString config = app.path("config.ini");
+            Records saved = recordsIn(app.bytesOf("config.ini"));
+            QString applied = "Current"; // the level on the main window
+            for (const QString& step : QString(sequence).split(", ")) {
+                const QString fault = step.contains(':') ? step.section(':', 0, 0) : QString();
+                const QStringList words = step.section(':', -1).split(' ');
+                const QString command = words[0], name = words.value(1);
+                const auto injectFault = [&] {
+                    app.files.failNext = failing.value(fault);
+                    if (fault == "readonly")
+                        QFile::setPermissions(config, QFile::ReadOwner);
+                };
+                const qsizetype boxes = app.dialogs.boxes.size();
+                if (command == "open")
+                    injectFault();
+                PathsDialogWindow& w = openPaths(app);
+                const int row = int(rowsOf(w.savedList).indexOf(name));
+                Records after = saved;
+                after.removeIf([&name](const auto& record) { return record.first == name; });
+                if (command == "save") {
+                    type(w.nameBox, name);
+                    type(w.levelBox, words[2]);
+                    after.append({name, words[2]});
+                } else if (command == "delete" || command == "load") {
+                    chooseRow(w.savedList, row);
+                    QCOMPARE(w.levelBox->text(), saved[row - 1].second);
+                }
+                injectFault();
+                const QString shown = w.levelBox->text();
+                if (command == "save" || command == "delete")
+                    click(command == "save" ? w.saveButton : w.deleteButton);
+                if (command == "ok") {
+                    click(w.okButton);
+                    applied = shown;
+                }
+                QCOMPARE(toQString(app.window->configuration().levelName), applied);
+                app.files.failNext.clear();
+                QFile::setPermissions(config, QFile::ReadOwner | QFile::WriteOwner);
+                if (fault.isEmpty() && command != "load" && command != "ok")
+                    saved = after;
+                QStringList listed{"(Current)"};
+                for (const auto& record : saved) // only what could be read
+                    listed << (fault == "unreadable" && command == "open" ? "" : record.first);
+                listed.removeAll("");
+                QVERIFY2(app.dialogs.boxes.size() == boxes + !fault.isEmpty() &&
+                             recordsIn(app.bytesOf("config.ini")) == saved &&
+                             rowsOf(openPaths(app).savedList) == listed &&
+                             !QFile::exists(app.path("config.tmp")),
+                         qPrintable(QString(sequence) + ": after " + step));
+            }
         }
     }
 };

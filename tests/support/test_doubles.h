@@ -42,6 +42,7 @@ class ScriptedDialogs : public Dialogs {
 class FaultyFileOps : public FileOps {
   public:
     int failAt = 0;      // the operation, counted from 1, that fails; 0 for none
+    QString failNext;    // or the next one of this kind ("writeNew", ...), once
     int operations = 0;  // operations made so far (exists is no operation that can fail)
     QStringList journal; // "remove path", "writeNew path", ... in order
 
@@ -65,6 +66,10 @@ class FaultyFileOps : public FileOps {
   private:
     bool failsNow(const QString& what) {
         journal << what;
+        if (!failNext.isEmpty() && what.startsWith(failNext + ' ')) {
+            failNext.clear();
+            return true;
+        }
         return ++operations == failAt;
     }
     static FileResult injected() { return FileResult::failure("Injected failure."); }

@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "platform/classic_font.h"
+#include "platform/caption_fit.h"
 #include "platform/placement.h"
 
 namespace umbrakit {
@@ -34,6 +34,7 @@ AboutWindow::AboutWindow() : QDialog(nullptr, kFixedDialogFlags) {
 
     QWidget::setTabOrder(okButton, icon);
     icon->setFocusPolicy(Qt::NoFocus);
+    fitCaptions(this);
     okButton->setFocus();
 }
 

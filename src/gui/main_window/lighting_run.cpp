@@ -21,7 +21,7 @@ void tellUnwritable(Dialogs& dialogs, const Configuration& c, const UnwritableTe
                            "\n\nChange the %1 and run again. Lighting was not started and go.bat "
                            "was not changed.")
                        .arg(captionOf(problem.field), toQString(text),
-                            toQString(std::u32string(1, problem.character))),
+                            toQString(characterForMessage(problem.character))),
                    {MsgBoxButtons::Ok, MsgBoxIcon::Exclamation}, QString());
 }
 

@@ -7,6 +7,7 @@
 
 #include "gui/main_window/main_window.h"
 #include "gui/main_window/patch_grid.h"
+#include "platform/caption_fit.h"
 #include "platform/classic_font.h"
 #include "platform/classic_frame.h"
 #include "platform/click_check_box.h"
@@ -78,6 +79,7 @@ void MainWindow::buildControls() {
 
     statusTimer = new FormTimer(kStatusInterval, this);
     statusTimer->setObjectName("Timer1");
+    fitCaptions(this);
 }
 
 void MainWindow::buildMenu() {

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <algorithm>
+#include <functional>
 
 #include "platform/placement.h"
 
@@ -17,6 +18,20 @@ constexpr int kTop = 885;
 QString twoDigits(int number) {
     return QString::number(number).rightJustified(2, '0');
 }
+
+// A patch's box hands its click, by mouse, Space or a drag, to the grid instead of switching
+// itself.
+class PatchBox : public QCheckBox {
+  public:
+    PatchBox(std::function<void()> click, QWidget* parent)
+        : QCheckBox(parent), click_(std::move(click)) {}
+
+  protected:
+    void nextCheckState() override { click_(); }
+
+  private:
+    std::function<void()> click_;
+};
 } // namespace
 
 PatchGrid::PatchGrid(QWidget* parent) : QWidget(parent) {
@@ -40,50 +55,55 @@ PatchGrid::PatchGrid(QWidget* parent) : QWidget(parent) {
     }
     for (int i = 0; i < kPatchCount; ++i) {
         const QByteArray name = "CheckBoxArray_" + QByteArray::number(i);
-        QCheckBox* box = place(new QCheckBox(this), name.constData(), 225 + 300 * patchColumn(i),
-                               5610 - 300 * patchRow(i) - kTop, 240, 240);
+        QCheckBox* box =
+            place(new PatchBox([this, i] { clickPatch(i); }, this), name.constData(),
+                  225 + 300 * patchColumn(i), 5610 - 300 * patchRow(i) - kTop, 240, 240);
         box->setEnabled(false);
         box->setAccessibleName(
             QString("Patch column %1, row %2").arg(patchColumn(i)).arg(patchRow(i)));
         box->setFocusPolicy(i == focusedPatch_ ? Qt::StrongFocus : Qt::ClickFocus);
         box->installEventFilter(this);
+        // The program may still set a box itself, as on a greyed one; the selection follows.
+        connect(box, &QCheckBox::toggled, this,
+                [this, i](bool on) { selection_.setTicked(i, on); });
         patches_[std::size_t(i)] = box;
     }
 }
 
 void PatchGrid::showWorld(WorldSize world) {
-    world_ = world;
     const bool focusInGrid = patch(focusedPatch_)->hasFocus();
+    selection_.showWorld(world);
     for (int index = 0; index < kPatchCount; ++index) {
-        if (isInWorld(index, world))
+        if (selection_.isEnabled(index))
             patches_[std::size_t(index)]->setEnabled(true);
     }
     // Before the old patch is greyed, or Qt would hand the focus out of the grid.
     moveTabStop(nearestPatchInWorld(focusedPatch_, world), focusInGrid);
     for (int index = 0; index < kPatchCount; ++index) {
-        QCheckBox* box = patches_[std::size_t(index)];
-        if (!isInWorld(index, world)) {
-            box->setEnabled(false);
-            box->setChecked(false);
-        }
+        if (!selection_.isEnabled(index))
+            patches_[std::size_t(index)]->setEnabled(false);
     }
+    showTicks();
 }
 
 void PatchGrid::selectAll(WorldSize world) {
-    for (int index = 0; index < kPatchCount; ++index)
-        patches_[std::size_t(index)]->setChecked(isInWorld(index, world));
+    selection_.selectAll(world);
+    showTicks();
 }
 
 void PatchGrid::clear() {
-    for (QCheckBox* box : patches_)
-        box->setChecked(false);
+    selection_.clear();
+    showTicks();
 }
 
-PatchValues PatchGrid::values() const {
-    PatchValues values{};
+void PatchGrid::clickPatch(int patch) {
+    selection_.click(patch);
+    patches_[std::size_t(patch)]->setChecked(selection_.isTicked(patch));
+}
+
+void PatchGrid::showTicks() {
     for (int index = 0; index < kPatchCount; ++index)
-        values[std::size_t(index)] = patches_[std::size_t(index)]->isChecked() ? 1 : 0;
-    return values;
+        patches_[std::size_t(index)]->setChecked(selection_.isTicked(index));
 }
 
 int PatchGrid::indexOf(const QObject* object) const {

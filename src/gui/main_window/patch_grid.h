@@ -1,5 +1,6 @@
-// The 16 by 16 patch grid with its axis labels. Its check boxes are the only store of the
-// selection: row 0 is at the bottom, column 0 at the left, patch index row * 16 + column.
+// The 16 by 16 patch grid with its axis labels: row 0 is at the bottom, column 0 at the left,
+// patch index row * 16 + column. Its check boxes show the patch selection; a click, Space or
+// a drag goes to the selection, and the box then shows what the selection holds.
 //
 // The grid is one tab stop: only its focused patch takes Tab, the arrow keys and Home, End,
 // Page Up and Page Down move the focus inside the world, and Space ticks as on any check box.
@@ -10,9 +11,8 @@
 #include <QWidget>
 #include <array>
 
-#include "core/lmlist_format.h"
 #include "core/patch_navigation.h"
-#include "core/world_size.h"
+#include "core/patch_selection.h"
 
 class QCheckBox;
 class QKeyEvent;
@@ -27,13 +27,13 @@ class PatchGrid : public QWidget {
     explicit PatchGrid(QWidget* parent);
 
     QCheckBox* patch(int index) const { return patches_[std::size_t(index)]; }
+    const PatchSelection& selection() const { return selection_; }
 
     // Patches of the world are enabled; those outside it greyed and unticked for good.
     void showWorld(WorldSize world);
     // Every patch of the world ticked, every other one unticked.
     void selectAll(WorldSize world);
     void clear();
-    PatchValues values() const;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -41,6 +41,8 @@ class PatchGrid : public QWidget {
 
   private:
     int indexOf(const QObject* object) const;
+    void clickPatch(int patch);
+    void showTicks();
 
     // Keys and focus (patch_grid_focus.cpp).
     void moveTabStop(int patch, bool focus);
@@ -60,7 +62,7 @@ class PatchGrid : public QWidget {
 
     std::array<QCheckBox*, kPatchCount> patches_;
     std::array<QLabel*, 2 * kGridSide> axisLabels_;
-    WorldSize world_{0, 0};
+    PatchSelection selection_;
     int focusedPatch_ = 0; // holds the tab stop, focus or not; patch 0 lies in every world
     DragState dragState_;
 };

@@ -20,8 +20,8 @@ bool PatchGrid::followDrag(int patch, QMouseEvent& mouse) {
     const QPoint point = box->mapToParent(mouse.position().toPoint());
     switch (mouse.type()) {
     case QEvent::MouseButtonPress:
-        if (mouse.button() == Qt::LeftButton && box->isEnabled())
-            dragState_ = {patch, !box->isChecked(), false, point};
+        if (mouse.button() == Qt::LeftButton && selection_.isEnabled(patch))
+            dragState_ = {patch, !selection_.isTicked(patch), false, point};
         return false;
     case QEvent::MouseMove:
         if (dragState_.origin != patch || !mouse.buttons().testFlag(Qt::LeftButton))
@@ -56,9 +56,8 @@ void PatchGrid::spreadAlong(QPoint from, QPoint to) {
 }
 
 void PatchGrid::giveDragState(int patch) {
-    QCheckBox* box = patches_[std::size_t(patch)];
-    if (box->isEnabled() && box->isChecked() != dragState_.ticks)
-        box->click();
+    if (selection_.isEnabled(patch) && selection_.isTicked(patch) != dragState_.ticks)
+        patches_[std::size_t(patch)]->click();
 }
 
 } // namespace umbrakit

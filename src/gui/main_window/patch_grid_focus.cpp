@@ -56,7 +56,7 @@ bool PatchGrid::moveFocusByKey(const QKeyEvent& key) {
     const std::optional<GridMove> move = moveFor(key);
     if (!move)
         return false; // Space, Tab and the rest go to the check box as always
-    moveTabStop(patchAfterMove(focusedPatch_, *move, world_), true);
+    moveTabStop(patchAfterMove(focusedPatch_, *move, selection_.world()), true);
     return true;
 }
 

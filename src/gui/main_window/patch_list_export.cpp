@@ -1,5 +1,4 @@
 // The export of the ticked patches as lmList.dat, to a file the user chooses.
-#include "core/lmlist_format.h"
 #include "gui/main_window/main_window.h"
 #include "gui/main_window/patch_grid.h"
 #include "platform/form_timer.h"
@@ -29,7 +28,7 @@ void MainWindow::exportPatchList() {
                                 "File Exists...") != MsgBoxAnswer::Yes)
         return;
 
-    const std::string records = encodeLmList(patchGrid->values());
+    const std::string records = patchGrid->selection().lmListRecords();
     // The old list stays whole until the new one is complete beside it.
     const FileResult written = replaceWhole(services.files, name, name + ".tmp",
                                             QByteArray(records.data(), qsizetype(records.size())));

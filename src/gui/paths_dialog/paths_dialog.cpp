@@ -135,7 +135,7 @@ void PathsDialog::tell(const DialogRefusal& refusal) const {
     case DialogRefusal::Unwritable:
         return tell(QString("The %1 holds the character \"%2\", which config.ini cannot store. "
                             "Nothing was saved.")
-                        .arg(field, toQString(std::u32string(1, refusal.character))));
+                        .arg(field, toQString(characterForMessage(refusal.character))));
     case DialogRefusal::NoRoom:
         return tell(QString("There is room for %1 saved Configs, and all are in use. Delete one, "
                             "or save under a listed name to replace it.")

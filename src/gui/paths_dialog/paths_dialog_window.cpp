@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <limits>
 
+#include "platform/caption_fit.h"
 #include "platform/classic_font.h"
 #include "platform/classic_frame.h"
 #include "platform/combo_list.h"
@@ -19,26 +20,12 @@ namespace {
 constexpr int kClientWidth = 6630;
 constexpr int kClientHeight = 2970;
 
-// Where the classic font is missing, its stand-in may run wider: the caption is then set a
-// little narrower until it fits the control, never cut off.
-void fitCaption(QWidget* control) {
-    constexpr int kNarrowestStretch = 80;
-    QFont font = control->font();
-    for (int stretch = 99;
-         control->sizeHint().width() > control->width() && stretch >= kNarrowestStretch;
-         --stretch) {
-        font.setStretch(stretch);
-        control->setFont(font);
-    }
-}
-
 // A box's label, at the left of its row; the box is spoken by its caption.
 void label(QWidget* box, const QString& caption, const char* name, int top, int width,
            int height) {
     QLabel* text = place(new QLabel(caption, box->parentWidget()), name, 105, top, width, height);
     text->setFont(labelFont());
     text->setFocusPolicy(Qt::NoFocus);
-    fitCaption(text);
     box->setAccessibleName(caption.chopped(1)); // without the colon
 }
 } // namespace
@@ -63,7 +50,6 @@ PathsDialogWindow::PathsDialogWindow() : QDialog(nullptr, kFixedDialogFlags) {
         passBoxes[pass] = place(new QCheckBox(passCaptions[pass], pathsFrame), passNames[pass],
                                 passLefts[pass], 2310, passWidths[pass], 225);
         passBoxes[pass]->setEnabled(false);
-        fitCaption(passBoxes[pass]);
     }
     saveButton = place(new QPushButton("Save", pathsFrame), "Save", 5670, 210, 855, 330);
     nameBox = place(new QLineEdit(pathsFrame), "SettingName_Text", 1470, 210, 4110, 285);
@@ -88,13 +74,14 @@ PathsDialogWindow::PathsDialogWindow() : QDialog(nullptr, kFixedDialogFlags) {
     for (QLineEdit* box : {nameBox, gamePathBox, levelBox, modBox->lineEdit(), darknessBox})
         box->setMaxLength(std::numeric_limits<int>::max());
 
+    fitCaptions(this);
     setTabOrder();
 }
 
 void PathsDialogWindow::setTabOrder() {
-    const QList<QWidget*> order{savedList, nameBox,  saveButton,  gamePathBox,
-                                browseButton, levelBox, modBox,   darknessBox,
-                                okButton,  cancelButton, deleteButton};
+    const QList<QWidget*> order{savedList,    nameBox,      saveButton,  gamePathBox,
+                                browseButton, levelBox,     modBox,      darknessBox,
+                                okButton,     cancelButton, deleteButton};
     for (int i = 0; i + 1 < order.size(); ++i)
         QWidget::setTabOrder(order[i], order[i + 1]);
     pathsFrame->setFocusPolicy(Qt::NoFocus);

@@ -14,7 +14,9 @@ using namespace umbrakit;
 
 namespace {
 QList<std::pair<QObject*, QAccessible::Event>> heard;
-QAccessibleInterface* spoken(QObject* object) { return QAccessible::queryAccessibleInterface(object); }
+QAccessibleInterface* spoken(QObject* object) {
+    return QAccessible::queryAccessibleInterface(object);
+}
 
 void activate(QWidget& window) {
     window.activateWindow();
@@ -31,6 +33,25 @@ QList<int> ticked(const PatchGrid& grid) {
             patches << i;
     return patches;
 }
+// The patches the screen shows with the focus ring: its colour in the margin on at least two
+// sides of the box (at the grid's edges a header or the edge may hide two).
+QStringList ringed(const PatchGrid& grid) {
+    QWidget& window = *grid.window();
+    const QImage shot = window.screen()->grabWindow(window.winId()).toImage();
+    const auto ring = [&](int x, int y) {
+        return shot.pixelColor(QPoint(x, y) * shot.devicePixelRatio()) ==
+               grid.palette().color(QPalette::Highlight);
+    };
+    QStringList patches;
+    for (QCheckBox* box : grid.findChildren<QCheckBox*>()) {
+        const QRect r(box->mapTo(&window, QPoint()), box->size());
+        const int sides = ring(r.center().x(), r.top() - 1) + ring(r.center().x(), r.bottom() + 1) +
+                          ring(r.left() - 1, r.center().y()) + ring(r.right() + 1, r.center().y());
+        if (sides >= 2)
+            patches << box->objectName();
+    }
+    return patches;
+}
 } // namespace
 
 class KeyboardAccessTest : public QObject {
@@ -38,8 +59,9 @@ class KeyboardAccessTest : public QObject {
   private slots:
     // Qt reports focus moves only while a screen reader may listen: the bus must be on.
     void initTestCase() {
-        QAccessible::installUpdateHandler(
-            [](QAccessibleEvent* event) { heard.append({event->object(), event->type()}); });
+        QAccessible::installUpdateHandler([](QAccessibleEvent* event) {
+            heard.append({event->object(), event->type()});
+        });
         QTRY_VERIFY_WITH_TIMEOUT(QAccessible::isActive(), 10000);
     }
 
@@ -88,31 +110,45 @@ class KeyboardAccessTest : public QObject {
     }
 
     // In 8x8 from patch 0, Up is a higher row and the edges hold; each move and tick is heard.
+    // After a click the keys go on from the clicked patch: the arrows, Space, and Tab out of
+    // the grid and back. The focus ring stands around the focused patch and no other.
     // Then 4x4: a drag gives the first patch's new state to every enabled patch passed over.
-    void theGridByKeysAndByDrag() {
+    void theGridByKeysMouseAndDrag() {
         TestApp app;
         MainWindow& w = *app.window;
         PatchGrid& grid = *w.patchGrid;
         chooseRow(w.worldSizeList, 1);
         activate(w);
         w.runLightingButton->setFocus();
+        const int list = -1, go = -2; // out of the grid: the world-size list, Run Lighting
         const std::pair<const char*, int> steps[] = {
-            {"Tab", 0},    {"Up", 16},  {"Right", 17},  {"End", 23},   {"Right", 23},
-            {"PgUp", 119}, {"Up", 119}, {"Home", 112},  {"Left", 112}, {"PgDown", 0},
-            {"Down", 0},   {"Ctrl+End", 7}, {"Ctrl+Home", 112}, {"Right", 113}, {"Space", 113}};
-        for (const auto& [key, patch] : steps) {
+            {"Tab", 0},        {"Up", 16},      {"Right", 17},      {"End", 23},    {"Right", 23},
+            {"PgUp", 119},     {"Up", 119},     {"Home", 112},      {"Left", 112},  {"PgDown", 0},
+            {"Down", 0},       {"Ctrl+End", 7}, {"Ctrl+Home", 112}, {"Right", 113}, {"Space", 113},
+            {"click", 35},     {"Right", 36},   {"Up", 52},         {"Space", 52},  {"Tab", list},
+            {"Shift+Tab", 52}, {"click", 97},   {"Shift+Tab", go},  {"Tab", 97},    {"Tab", list}};
+        for (const auto& [key, stop] : steps) {
+            QWidget* target = stop == list ? w.worldSizeList
+                              : stop == go ? w.runLightingButton
+                                           : static_cast<QWidget*>(grid.patch(stop));
             const QWidget* before = QApplication::focusWidget();
             heard.clear();
-            press(w, key);
-            QVERIFY2(QApplication::focusWidget() == grid.patch(patch), key);
-            QVERIFY(before == grid.patch(patch) || heard.contains({grid.patch(patch), QAccessible::Focus}));
+            if (QString(key) == "click")
+                QTest::mouseClick(w.windowHandle(), Qt::LeftButton, {},
+                                  target->mapTo(&w, QPoint(8, 8)));
+            else
+                press(w, key);
+            QVERIFY2(QApplication::focusWidget() == target, key);
+            QVERIFY(before == target || heard.contains({target, QAccessible::Focus}));
+            QVERIFY(QString(key) != "Space" ||
+                    (spoken(target)->state().checked &&
+                     heard.contains({target, QAccessible::StateChanged})));
+            QTRY_COMPARE(ringed(grid), grid.isAncestorOf(target) ? QStringList{target->objectName()}
+                                                                 : QStringList());
         }
-        QAccessibleInterface* patch = spoken(grid.patch(113));
-        QCOMPARE(ticked(grid), QList<int>{113});
-        QVERIFY(patch->state().checked && heard.contains({patch->object(), QAccessible::StateChanged}));
-        QCOMPARE(patch->text(QAccessible::Name), QString("Patch column 1, row 7"));
-        press(w, "Tab"); // out of the grid in one step
-        QCOMPARE(QApplication::focusWidget(), w.worldSizeList);
+        QCOMPARE(ticked(grid), (QList<int>{35, 52, 97, 113}));
+        QCOMPARE(spoken(grid.patch(113))->text(QAccessible::Name),
+                 QString("Patch column 1, row 7"));
         chooseRow(w.worldSizeList, 0);
         activate(w);
         press(w, "Shift+Tab");
@@ -131,9 +167,9 @@ class KeyboardAccessTest : public QObject {
         };
         QTest::mouseClick(window, Qt::LeftButton, {}, at(2));
         drag({0, 6, 54, 51}); // along row 0 past the world, up, back into it at row 3
-        QCOMPARE(ticked(grid), (QList<int>{0, 1, 2, 3, 51}));
+        QCOMPARE(ticked(grid), (QList<int>{0, 1, 2, 3, 35, 51}));
         drag({51, 48}); // from a ticked patch: unticks, whatever it crosses
-        QCOMPARE(ticked(grid), (QList<int>{0, 1, 2, 3}));
+        QCOMPARE(ticked(grid), (QList<int>{0, 1, 2, 3, 35}));
         QCOMPARE(clicks, 6);
     }
 };

@@ -1,5 +1,7 @@
-// The main window as the user meets it: the patch grid under every world size, the three
+// The main window as the user meets it: the patch grid as it shows the selection, the three
 // passes kept in step whichever way they change, the status line's timer, and the end.
+#include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
@@ -21,45 +23,69 @@ void elapseNow(FormTimer& timer) {
     QMetaObject::invokeMethod(countdown, "timeout");
 }
 
-int ticked(const MainWindow& window) {
-    return int(std::ranges::count(window.patchGrid->values(), 1));
-}
-
 } // namespace
 
 class MainWindowTest : public QObject {
     Q_OBJECT
   private slots:
-    void theGridFollowsTheWorldSize() {
+    // Patch (c, r) stands under the column header reading c and beside the row header reading
+    // r, counted from "00" at the left and at the bottom: a click where the headers say ticks
+    // that patch, and lmList.dat names it. A mirrored or transposed grid lights other patches.
+    // Through the list and the two buttons every box shows its patch as the selection holds it.
+    void eachPatchWhereItsHeadersSayAsTheSelectionHoldsIt() {
         TestApp app;
         MainWindow& w = *app.window;
-        PatchGrid& grid = *w.patchGrid;
-        for (int i = 0; i < kPatchCount; ++i)
-            QCOMPARE(grid.patch(i)->isEnabled(), i % 16 < 4 && i < 64);
-        QCOMPARE(ticked(w), 0);
-        QCOMPARE(app.status(), QString("Ready."));
-
-        chooseRow(w.worldSizeList, 1); // "8x8"
-        clickBox(grid.patch(17));
-        clickBox(grid.patch(100));
-        QCOMPARE(ticked(w), 2);
-        chooseRow(w.worldSizeList, 0); // shrinking loses patch 100 for good
-        QVERIFY(!grid.patch(100)->isEnabled());
-        chooseRow(w.worldSizeList, 1);
-        chooseRow(w.worldSizeList, 1); // the row already chosen changes nothing
-        QVERIFY(grid.patch(17)->isChecked() && !grid.patch(100)->isChecked());
-
-        const int worlds[] = {16, 64, 144, 256};
-        for (int row = 0; row < 4; ++row) {
-            chooseRow(w.worldSizeList, row);
-            QTest::mouseClick(w.selectAllButton, Qt::LeftButton);
-            QCOMPARE(ticked(w), worlds[row]);
+        const PatchGrid& grid = *w.patchGrid;
+        const auto shown = [&](int enabled, int ticked) {
+            const PatchSelection& selection = grid.selection();
+            for (int i = 0; i < kPatchCount; ++i)
+                QVERIFY2(grid.patch(i)->isEnabled() == selection.isEnabled(i) &&
+                             grid.patch(i)->isChecked() == selection.isTicked(i),
+                         qPrintable(QString::number(i)));
+            QCOMPARE(int(std::ranges::count(selection.values(), 1)), ticked);
+            QCOMPARE(
+                int(std::ranges::count_if(grid.findChildren<QCheckBox*>(), &QWidget::isEnabled)),
+                enabled);
+        };
+        shown(16, 0);
+        chooseRow(w.worldSizeList, 3); // "32x32"
+        QRect boxes;
+        for (QCheckBox* box : grid.findChildren<QCheckBox*>())
+            boxes |= QRect(box->mapTo(&w, QPoint()), box->size());
+        QMap<QString, QPoint> above, beside; // the headers' middles, by their text
+        for (QLabel* label : w.findChildren<QLabel*>()) {
+            const QPoint middle = label->mapTo(&w, label->rect().center());
+            bool number = false;
+            label->text().toInt(&number);
+            if (number && middle.y() < boxes.top() && middle.x() > boxes.left())
+                above.insert(label->text(), middle);
+            else if (number && middle.x() < boxes.left() && middle.y() > boxes.top())
+                beside.insert(label->text(), middle);
         }
-        chooseRow(w.worldSizeList, 2); // "16x16" is 12 by 12
-        QCOMPARE(ticked(w), 144);
+        QCOMPARE(above.size(), kGridSide);
+        QCOMPARE(beside.size(), kGridSide);
+        const auto header = [](int n) { return QString::number(n).rightJustified(2, '0'); };
+        for (int n = 1; n < kGridSide; ++n) { // rightward and upward
+            QVERIFY(above.value(header(n)).x() > above.value(header(n - 1)).x());
+            QVERIFY(beside.value(header(n)).y() < beside.value(header(n - 1)).y());
+        }
+        const auto at = [&](int column, int row) {
+            return QPoint(above.value(header(column)).x(), beside.value(header(row)).y());
+        };
+        for (int row = 0; row < kGridSide; ++row)
+            for (int column = 0; column < kGridSide; ++column)
+                QVERIFY2(w.childAt(at(column, row)) == grid.patch(row * 16 + column),
+                         qPrintable(QString("column %1, row %2").arg(column).arg(row)));
+        for (const auto& [column, row] : {std::pair{15, 15}, {3, 2}, {0, 0}, {5, 0}})
+            QTest::mouseClick(w.windowHandle(), Qt::LeftButton, {}, at(column, row));
+        QCOMPARE(grid.selection().lmListRecords(),
+                 std::string("\x00\x00\x05\x00\x03\x02\x0F\x0F", 8));
+        chooseRow(w.worldSizeList, 2); // "16x16" is 12 by 12: patch 255 greyed and unticked
+        shown(144, 3);
+        QTest::mouseClick(w.selectAllButton, Qt::LeftButton);
+        shown(144, 144);
         QTest::mouseClick(w.clearSelectionButton, Qt::LeftButton);
-        QCOMPARE(ticked(w), 0);
-        QVERIFY(grid.patch(187)->isEnabled() && !grid.patch(192)->isEnabled());
+        shown(144, 0);
     }
 
     // Every route, twice on every pass: a click, Space, the menu entry, the program setting
@@ -74,11 +100,20 @@ class MainWindowTest : public QObject {
             for (int route = 0; route < 10; ++route) {
                 QSignalSpy clicks(box, &ClickCheckBox::Click);
                 switch (route / 2) {
-                case 0: clickBox(box); break;
-                case 1: QTest::keyClick(box, Qt::Key_Space); break;
-                case 2: w.passEntries[int(pass)]->trigger(); break;
-                case 3: box->setValue(1 - box->Value()); break;
-                default: box->setValue(box->Value());
+                case 0:
+                    clickBox(box);
+                    break;
+                case 1:
+                    QTest::keyClick(box, Qt::Key_Space);
+                    break;
+                case 2:
+                    w.passEntries[int(pass)]->trigger();
+                    break;
+                case 3:
+                    box->setValue(1 - box->Value());
+                    break;
+                default:
+                    box->setValue(box->Value());
                 }
                 const bool changes = route < 8;
                 on[pass] = on[pass] != changes;
@@ -90,6 +125,36 @@ class MainWindowTest : public QObject {
             }
             box->setValue(1); // left on while the next is tried
             on[pass] = true;
+        }
+    }
+
+    // Found by their captions, as a user finds them: each entry of Run, Options ticks itself,
+    // moves the box of its pass and no other, and go.bat then runs that pass alone.
+    void eachPassEntrySwitchesThePassItNames() {
+        TestApp app;
+        MainWindow& w = *app.window;
+        app.setPaths(U"D:\\BF1942", U"Level", U"BF1942");
+        const char* const passes[][3] = {
+            {"Generate &TerrainShadows", "Generate &TerrainShadows", "+traceTerrainShadows"},
+            {"&Merge TerrainShadows", "&Merge TerrainShadows", "+mergeTerrainShadows"},
+            {"&Generate ObjectShadows", "Generate &ObjectShadows", "+traceObjectShadows"}};
+        const QList<QAction*> entries = w.findChild<QMenu*>("menuRunOption")->actions();
+        const QList<QCheckBox*> boxes = w.findChildren<QCheckBox*>();
+        for (const auto& [entryCaption, boxCaption, engineOption] : passes) {
+            const auto entry = std::ranges::find(entries, entryCaption, &QAction::text);
+            QVERIFY2(entry != entries.end(), entryCaption);
+            (*entry)->trigger();
+            for (QAction* other : entries)
+                QCOMPARE(other->isChecked(), other == *entry);
+            QCOMPARE(std::ranges::count_if(boxes, &QCheckBox::isChecked), 1);
+            QVERIFY2(std::ranges::find(boxes, boxCaption, &QCheckBox::text) != boxes.end() &&
+                         (*std::ranges::find(boxes, boxCaption, &QCheckBox::text))->isChecked(),
+                     boxCaption);
+            QTest::mouseClick(w.runLightingButton, Qt::LeftButton);
+            const QList<QByteArray> lines = app.bytesOf("go.bat").split('\n');
+            QVERIFY2(lines.size() == 4 && lines[2].contains(engineOption),
+                     lines.value(2).constData());
+            (*entry)->trigger();
         }
     }
 

@@ -1,0 +1,197 @@
+// Every caption of every window shown whole, measured as Qt draws it: the widget's own font
+// and the style's room for the text (beside a check box's indicator, inside a button's frame,
+// a label's contents, a menu's entry). cmake/fonts.cmake runs this under one font family at a
+// time (CAPTION_FIT_FAMILY names it); the program's own font is withheld first, so the fitting
+// alone must keep the captions whole, and then installed as the program installs it.
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStyleOption>
+#include <QtTest>
+
+#include "gui/about/about_box.h"
+#include "gui/paths_dialog/paths_dialog.h"
+#include "platform/bundled_fonts.h"
+#include "platform/classic_font.h"
+#include "platform/classic_frame.h"
+#include "platform/menu_entry.h"
+#include "support/test_app.h"
+
+using namespace umbrakit;
+
+namespace {
+
+// The style options of a button as it paints itself (initStyleOption is protected).
+struct ButtonOptions : QPushButton {
+    static QStyleOptionButton of(const QAbstractButton* button) {
+        QStyleOptionButton option;
+        if (auto* push = qobject_cast<const QPushButton*>(button))
+            (push->*&ButtonOptions::initStyleOption)(&option);
+        else
+            (static_cast<const QCheckBox*>(button)->*&CheckBoxOptions::initStyleOption)(&option);
+        return option;
+    }
+    struct CheckBoxOptions : QCheckBox {
+        using QCheckBox::initStyleOption;
+    };
+};
+
+QString shown(QString caption) {
+    caption.replace("&&", "\x01").remove('&').replace("\x01", "&");
+    return caption;
+}
+
+// Where the text's ink falls when drawn with these flags in this room.
+QRect inkOf(const QFontMetrics& metrics, const QRect& room, int flags, const QString& text) {
+    const QRect lines = metrics.boundingRect(room, flags, text);
+    if ((flags & Qt::TextWordWrap) && lines.height() > metrics.lineSpacing())
+        return lines; // wrapped: whole lines must fit
+    const QRect ink = metrics.tightBoundingRect(text);
+    const int baseline = lines.top() + metrics.ascent();
+    return QRect(lines.left(), baseline + ink.top(), lines.width(), ink.height());
+}
+
+// The part of the control that no neighbour in its row, stacked above it, covers.
+QRegion uncovered(const QWidget* control) {
+    QRegion shown(control->rect());
+    const QObjectList& siblings = control->parentWidget()->children();
+    for (qsizetype i = siblings.indexOf(control) + 1; i < siblings.size(); ++i) {
+        auto* above = qobject_cast<const QWidget*>(siblings[i]);
+        const int middle = control->geometry().center().y();
+        if (above && !above->isHidden() && !above->isWindow() && above->y() <= middle &&
+            above->geometry().bottom() >= middle)
+            shown -= above->geometry().translated(-control->pos());
+    }
+    return shown;
+}
+
+// One line for each caption of the window (and its menus) that does not fit its room.
+QStringList cutCaptions(QWidget* window) {
+    QStringList cut;
+    auto check = [&cut](const QWidget* w, const QString& text, const QRect& room, int flags,
+                        const QRect& bounds) {
+        const QRect ink = inkOf(w->fontMetrics(), room, flags | Qt::TextShowMnemonic, shown(text));
+        const QRegion visible = uncovered(w).intersected(bounds);
+        if (!QRegion(ink).subtracted(visible).isEmpty() || ink.width() > room.width())
+            cut << QString("%1 \"%2\" needs %3x%4, has %5 (%6)")
+                       .arg(w->objectName(), text, QString::number(ink.width()),
+                            QString::number(ink.height()), QString::number(room.width()),
+                            QFontInfo(w->font()).family());
+    };
+    for (QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
+        if (button->text().isEmpty())
+            continue;
+        const QStyleOptionButton option = ButtonOptions::of(button);
+        const bool push = qobject_cast<QPushButton*>(button);
+        const QRect room = button->style()->subElementRect(
+            push ? QStyle::SE_PushButtonContents : QStyle::SE_CheckBoxContents, &option, button);
+        check(button, button->text(), room, push ? Qt::AlignCenter : Qt::AlignVCenter,
+              button->rect());
+    }
+    for (QLabel* label : window->findChildren<QLabel*>()) {
+        if (label->text().isEmpty())
+            continue;
+        const int wrap = label->wordWrap() ? Qt::TextWordWrap : 0;
+        check(label, label->text(), label->contentsRect(), int(label->alignment()) | wrap,
+              label->contentsRect());
+        if (auto* frame = qobject_cast<ClassicFrame*>(label->parentWidget()))
+            if (!frame->rect().adjusted(2, 0, -2, 0).contains(label->geometry()))
+                cut << frame->objectName() + " \"" + frame->title() + "\" runs out of its frame";
+    }
+    for (QComboBox* list : window->findChildren<QComboBox*>()) {
+        QStyleOptionComboBox option;
+        option.initFrom(list);
+        const QRect room = list->style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                         QStyle::SC_ComboBoxEditField, list);
+        for (int row = 0; row < list->count(); ++row)
+            check(list, list->itemText(row), room, Qt::AlignVCenter, list->rect());
+    }
+    for (QMenuBar* bar : window->findChildren<QMenuBar*>())
+        for (QAction* entry : bar->actions()) {
+            const QRect room = bar->actionGeometry(entry);
+            check(bar, entry->text(), room, Qt::AlignCenter, bar->rect().intersected(room));
+        }
+    for (QMenu* menu : window->findChildren<QMenu*>()) {
+        menu->ensurePolished();
+        for (QAction* entry : menu->actions()) {
+            if (entry->isSeparator())
+                continue;
+            const QRect room = menu->actionGeometry(entry);
+            const QFontMetrics metrics = menu->fontMetrics();
+            const int shortcut = metrics.horizontalAdvance(entry->shortcut().toString());
+            if (metrics.horizontalAdvance(shown(entry->text())) + shortcut > room.width())
+                cut << menu->objectName() + " \"" + entry->text() + "\" runs out of its menu";
+        }
+    }
+    return cut;
+}
+
+// Every window with what it shows: the main window with the longest status text, the paths
+// dialog and the About box.
+QStringList cutCaptionsOfAllWindows() {
+    TestApp app;
+    app.window->show();
+    app.window->setPathsEntry->trigger();
+    app.window->aboutEntry->trigger();
+    QTest::mouseClick(app.window->runLightingButton, Qt::LeftButton); // nothing is set yet
+    QStringList cut = cutCaptions(app.window.get());
+    if (app.status() != "Error: Incomplete Config. Set Paths or Load Config.")
+        cut << "the status line shows \"" + app.status() + "\", not the error";
+    cut << cutCaptions(app.window->pathsDialog()->window())
+        << cutCaptions(app.window->aboutBox()->window());
+    app.window->aboutBox()->unload();
+    return cut;
+}
+
+// The family that the windows' default font resolves to.
+QString familyInUse() {
+    return QFontInfo(defaultControlFont()).family();
+}
+
+} // namespace
+
+class CaptionFitTest : public QObject {
+    Q_OBJECT
+  private slots:
+    // The check itself sees a caption that is cut.
+    void aCutCaptionIsSeen() {
+        QWidget window;
+        auto* box = new QCheckBox("Generate &TerrainShadows", &window);
+        box->setObjectName("narrow");
+        box->setGeometry(0, 0, 60, 15);
+        auto* low = new QLabel("Umbrakit and lmList.dat Generator", &window);
+        low->setGeometry(0, 20, 300, 4);
+        auto* covered = new QLabel("Shadow Darkness:", &window);
+        covered->setGeometry(0, 30, 300, 20);
+        (new QLineEdit(&window))->setGeometry(20, 30, 100, 20); // over the label's text
+        const QStringList cut = cutCaptions(&window);
+        QCOMPARE(cut.size(), 3);
+        QVERIFY(cut[0].startsWith("narrow \"Generate &TerrainShadows\" needs"));
+    }
+
+    // The system's font alone, the program's own withheld: the fitting keeps every caption.
+    void systemFontOnly() {
+        const QByteArray family = qgetenv("CAPTION_FIT_FAMILY");
+        if (!family.isEmpty())
+            QCOMPARE(familyInUse(), QString(family));
+        const QStringList cut = cutCaptionsOfAllWindows();
+        QVERIFY2(cut.isEmpty(), qPrintable(cut.join("\n")));
+    }
+
+    // With the program's own font, as the program starts.
+    void programFont() {
+#ifndef UMBRAKIT_BUNDLED_FONT
+        QSKIP("built without its own font");
+#endif
+        QVERIFY(installBundledFonts());
+        if (!qEnvironmentVariableIsEmpty("CAPTION_FIT_FAMILY"))
+            QCOMPARE(familyInUse(), QString("Liberation Sans"));
+        const QStringList cut = cutCaptionsOfAllWindows();
+        QVERIFY2(cut.isEmpty(), qPrintable(cut.join("\n")));
+    }
+};
+
+QTEST_MAIN(CaptionFitTest)
+#include "caption_fit_qtest.moc"

@@ -1,0 +1,49 @@
+// The program in a folder that this user may not write, though nobody marked it read-only, as
+// an ordinary user meets a folder of root's: the notice at start-up, then Save, Delete and a
+// lighting run, each refused with a box. Started as the user nobody by ordinary_user_test.sh;
+// prints what did not hold and returns how much.
+//   ordinary_user_check <program folder holding config.ini with the record "Wake">
+#include <QApplication>
+#include <unistd.h>
+
+#include "gui/main_window/program_folder_notice.h"
+#include "support/dialog_driver.h"
+
+using namespace umbrakit;
+
+int main(int argc, char* argv[]) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    const QString folder = QString::fromLocal8Bit(argv[argc - 1]);
+    QStringList problems;
+    if (::geteuid() == 0)
+        problems << "run as root";
+    DiskFileOps files;
+    ScriptedDialogs dialogs;
+    FakeLauncher launcher;
+    Services services{folder, files, dialogs, launcher, [] {}};
+    const auto window = MainWindow::start(services);
+    tellIfProgramFolderIsReadOnly(services);
+    const AskedBox notice = dialogs.boxes.value(0);
+    if (dialogs.boxes.size() != 1 || notice.title != "Read-Only Folder" ||
+        !notice.prompt.contains(QDir::toNativeSeparators(folder)))
+        problems << "no notice naming the folder";
+
+    window->setPathsEntry->trigger();
+    PathsDialogWindow& w = *window->pathsDialog()->window();
+    if (rowsOf(w.savedList) != QStringList{"(Current)", "Wake"})
+        problems << "the list shows " + rowsOf(w.savedList).join(',');
+    w.nameBox->setText("New");
+    w.saveButton->click();
+    w.savedList->setListIndex(1);
+    w.deleteButton->click();
+    window->applyConfiguration({U"C:\\BF", U"Level", U"BF1942", 1.5, {}});
+    window->runLightingButton->click();
+    if (dialogs.boxes.size() != 4 || !launcher.started.isEmpty())
+        problems << QString("%1 boxes, %2 started")
+                        .arg(dialogs.boxes.size())
+                        .arg(launcher.started.size());
+    for (const QString& problem : problems)
+        std::puts(qPrintable(problem));
+    return int(problems.size());
+}
