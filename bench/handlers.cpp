@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <cmath>
 #include <cstdio>
+#include <set>
 
 #include "bare_window.h"
 #include "user_actions.h"
@@ -16,17 +17,12 @@
 namespace {
 using umbrakit::bench::UserAction;
 
-std::vector<std::string> failed; // the actions that did not do their work
-
-// Paints now what the last changes made dirty, in every shown window, as its next update would.
+// Paints now what the last changes made dirty, as the windows' next update would.
 void repaintDirty() {
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        QEvent update(QEvent::UpdateRequest);
-        if (window->isVisible())
-            QCoreApplication::sendEvent(window, &update);
-    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
 }
 
+// What the call before left: its repaint, deferred deletes and other queued events.
 void settle() {
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -41,31 +37,23 @@ double percentile99(const std::vector<double>& samples) {
     return *rank;
 }
 
-void timeAction(benchmark::State& state, const UserAction& action,
-                const umbrakit::bench::TimedFileOps& files, bool withRepaint) {
-    double fileUs = 0;
+bool timeAction(benchmark::State& state, const UserAction& action, const double& fileUs,
+                bool withRepaint) {
+    double fileUsBefore = 0;
     for (auto _ : state) {
         state.PauseTiming();
-        settle(); // what the call before left
-        if (action.prepare)
-            action.prepare();
         settle();
-        const double fileUsBefore = files.spentUs();
+        action.prepare();
+        settle();
+        fileUsBefore = fileUs;
         state.ResumeTiming();
         action.act();
         if (withRepaint)
             repaintDirty();
-        state.PauseTiming();
-        fileUs += files.spentUs() - fileUsBefore;
-        state.ResumeTiming();
     }
-    state.counters["file_us"] = benchmark::Counter(fileUs, benchmark::Counter::kAvgIterations);
+    state.counters["file_us"] = fileUs - fileUsBefore;
     settle();
-    if (!action.worked()) {
-        state.SkipWithError("the call did not do its work");
-        if (failed.empty() || failed.back() != action.name)
-            failed.push_back(action.name);
-    }
+    return action.worked();
 }
 } // namespace
 
@@ -77,24 +65,24 @@ int main(int argc, char* argv[]) {
     umbrakit::bench::BenchApp bench;
     const auto bare = umbrakit::bench::makeBareWindow();
     bare->show();
-
-    std::vector<UserAction> actions = umbrakit::bench::mainWindowActions(bench);
-    for (auto& more :
-         {umbrakit::bench::pathsDialogActions(bench), umbrakit::bench::yardsticks(*bare)})
-        actions.insert(actions.end(), more.begin(), more.end());
-    const auto add = [&bench](const UserAction& action, const std::string& name, bool repaint) {
-        const auto time = [&action, &bench, repaint](benchmark::State& state) {
-            timeAction(state, action, bench.files, repaint);
-        };
-        benchmark::RegisterBenchmark(name.c_str(), time)
-            ->Iterations(1)
-            ->Unit(benchmark::kMicrosecond)
-            ->ComputeStatistics("p99", percentile99);
-    };
+    const std::vector<UserAction> actions = umbrakit::bench::userActions(bench, *bare);
+    std::set<std::string> failed; // a call that did not do its work fails the run
     for (const UserAction& action : actions) {
-        add(action, action.name, false);
-        if (action.repaints)
-            add(action, action.name + " + repaint", true);
+        for (const bool repaint : {false, true}) {
+            if (repaint && !action.repaints)
+                continue;
+            const auto time = [&, repaint](benchmark::State& state) {
+                if (!timeAction(state, action, bench.files.spentUs, repaint)) {
+                    state.SkipWithError("the call did not do its work");
+                    failed.insert(action.name);
+                }
+            };
+            benchmark::RegisterBenchmark((action.name + (repaint ? " + repaint" : "")).c_str(),
+                                         time)
+                ->Iterations(1)
+                ->Unit(benchmark::kMicrosecond)
+                ->ComputeStatistics("p99", percentile99);
+        }
     }
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -5,13 +5,14 @@
 // launcher that starts nothing.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <functional>
 #include <string>
 
 #include "gui/main_window/main_window.h"
+#include "platform/disk_file_ops.h"
 #include "support/test_doubles.h"
-#include "timed_file_ops.h"
 
 namespace umbrakit::bench {
 
@@ -23,6 +24,37 @@ struct UserAction {
     bool repaints = false;         // timed once more with the repaint it causes
 };
 
+// The real file operations with the time spent in them counted: how much of a call is the wait
+// for the disk (the flush of a file above all) rather than the program's own work.
+class TimedFileOps : public FileOps {
+    DiskFileOps disk_;
+    template <typename Operation> auto timed(Operation operation) {
+        QElapsedTimer clock;
+        clock.start();
+        auto result = operation();
+        spentUs += double(clock.nsecsElapsed()) / 1000;
+        return result;
+    }
+
+  public:
+    double spentUs = 0;
+    bool exists(const QString& path) override {
+        return timed([&] { return disk_.exists(path); });
+    }
+    FileResult read(const QString& path, QByteArray& bytes) override {
+        return timed([&] { return disk_.read(path, bytes); });
+    }
+    FileResult remove(const QString& path) override {
+        return timed([&] { return disk_.remove(path); });
+    }
+    FileResult writeNew(const QString& path, const QByteArray& bytes) override {
+        return timed([&] { return disk_.writeNew(path, bytes); });
+    }
+    FileResult renameOver(const QString& from, const QString& to) override {
+        return timed([&] { return disk_.renameOver(from, to); });
+    }
+};
+
 struct BenchApp {
     QTemporaryDir dir;
     TimedFileOps files;
@@ -32,9 +64,8 @@ struct BenchApp {
     std::unique_ptr<MainWindow> window = MainWindow::start(services);
 };
 
-std::vector<UserAction> mainWindowActions(BenchApp& app);
-std::vector<UserAction> pathsDialogActions(BenchApp& app);
-// The toolkit's own share of the grid's work: the bare window's plain check boxes.
-std::vector<UserAction> yardsticks(QMainWindow& bareWindow);
+// On the main window, in the paths dialog, and the yardsticks: the toolkit's own share of the
+// grid's work, on the bare window's plain check boxes.
+std::vector<UserAction> userActions(BenchApp& app, QMainWindow& bareWindow);
 
 } // namespace umbrakit::bench

@@ -14,22 +14,17 @@ if(NOT benchmark_FOUND)
     return()
 endif()
 
-add_library(bench_window_run STATIC bench/window_run.cpp bench/window_run.h)
-target_link_libraries(bench_window_run PUBLIC Qt6::Widgets)
+add_executable(bench_startup_umbrakit bench/startup.cpp)
+target_link_libraries(bench_startup_umbrakit PRIVATE umbrakit_gui)
+add_executable(bench_startup_bare bench/startup.cpp bench/bare_window.h)
+target_compile_definitions(bench_startup_bare PRIVATE BARE_WINDOW)
+target_link_libraries(bench_startup_bare PRIVATE Qt6::Widgets)
 
-add_executable(bench_startup_umbrakit bench/startup_umbrakit.cpp)
-target_link_libraries(bench_startup_umbrakit PRIVATE umbrakit_gui bench_window_run)
-
-add_executable(bench_startup_bare bench/startup_bare.cpp bench/bare_window.cpp
+add_executable(bench_handlers bench/handlers.cpp bench/user_actions.h bench/user_actions.cpp
     bench/bare_window.h)
-target_link_libraries(bench_startup_bare PRIVATE bench_window_run)
-
-add_executable(bench_handlers bench/handlers.cpp bench/user_actions.h bench/timed_file_ops.h
-    bench/main_window_actions.cpp bench/paths_dialog_actions.cpp bench/yardsticks.cpp
-    bench/bare_window.cpp)
-# The boxes and file dialogs are answered as the tests answer them.
+# The boxes and file dialogs are answered, and config.ini's records written, as in the tests.
 target_include_directories(bench_handlers PRIVATE tests)
-target_link_libraries(bench_handlers PRIVATE umbrakit_gui benchmark::benchmark)
+target_link_libraries(bench_handlers PRIVATE umbrakit_gui Qt6::Test benchmark::benchmark)
 
 add_custom_target(bench DEPENDS bench_startup_umbrakit bench_startup_bare bench_handlers)
 

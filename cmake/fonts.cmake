@@ -3,13 +3,15 @@
 # build time and built in as a resource (platform/bundled_fonts). Its licence goes into the
 # package beside the program (cmake/package.cmake). Elsewhere, point UMBRAKIT_FONT_DIR at the
 # two files; a build without them fits the captions into the system's fonts alone.
+# The files are stored uncompressed: inflating them took some 13 million instructions at every
+# start, a tenth of the start-up, to save 450 KB of the program's size.
 set(UMBRAKIT_FONT_DIR /usr/share/fonts/truetype/liberation2 CACHE PATH
     "Folder holding LiberationSans-Regular.ttf and LiberationSans-Bold.ttf (version 2.x)")
 set(font_entries "")
 set(UMBRAKIT_BUNDLED_FONT ON)
 foreach(face LiberationSans-Regular.ttf LiberationSans-Bold.ttf)
     if(EXISTS "${UMBRAKIT_FONT_DIR}/${face}")
-        string(APPEND font_entries "        <file alias=\"${face}\" compress-algo=\"zlib\" threshold=\"30\">${UMBRAKIT_FONT_DIR}/${face}</file>\n")
+        string(APPEND font_entries "        <file alias=\"${face}\" compress-algo=\"none\">${UMBRAKIT_FONT_DIR}/${face}</file>\n")
     else()
         set(UMBRAKIT_BUNDLED_FONT OFF)
     endif()

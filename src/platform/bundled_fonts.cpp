@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFontDatabase>
+#include <QResource>
 
 // Resources of a static library are not registered by themselves.
 static void registerFontResources() {
@@ -14,8 +15,17 @@ bool installBundledFonts() {
     registerFontResources();
     const QFileInfoList faces = QDir(":/umbrakit/fonts").entryInfoList({"*.ttf"}, QDir::Files);
     bool installed = !faces.isEmpty();
-    for (const QFileInfo& face : faces)
-        installed = QFontDatabase::addApplicationFont(face.filePath()) != -1 && installed;
+    for (const QFileInfo& face : faces) {
+        // Stored uncompressed (cmake/fonts.cmake), a face is read where it lies in the program
+        // rather than copied.
+        const QResource stored(face.filePath());
+        const QByteArray bytes =
+            stored.compressionAlgorithm() == QResource::NoCompression
+                ? QByteArray::fromRawData(reinterpret_cast<const char*>(stored.data()),
+                                          qsizetype(stored.size()))
+                : stored.uncompressedData();
+        installed = QFontDatabase::addApplicationFontFromData(bytes) != -1 && installed;
+    }
     return installed;
 }
 
