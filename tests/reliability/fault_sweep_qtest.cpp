@@ -187,12 +187,11 @@ class FaultSweepTest : public QObject {
                     QCOMPARE(w.levelBox->text(), saved[row - 1].second);
                 }
                 injectFault();
-                const QString shown = w.levelBox->text();
                 if (command == "save" || command == "delete")
                     click(command == "save" ? w.saveButton : w.deleteButton);
                 if (command == "ok") {
+                    applied = w.levelBox->text();
                     click(w.okButton);
-                    applied = shown;
                 }
                 QCOMPARE(toQString(app.window->configuration().levelName), applied);
                 app.files.failNext.clear();
