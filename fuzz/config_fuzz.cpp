@@ -1,7 +1,8 @@
 // Feeds any bytes to the program as config.ini, the way a hand-edited, cut-off or damaged file
-// reaches it (lines without "=", CR without LF, NUL bytes, very long lines, names repeated),
-// and checks what must hold whatever the file holds: what is listed, what a row loads, what a
-// Save and a Delete keep, and that a record the program writes loads back as written.
+// reaches it (lines without "=", CR without LF, NUL bytes, names repeated, more than 30
+// records), and checks what must hold whatever the file holds: what is listed, what a row
+// loads, what a Save and a Delete keep, and that a record the program writes loads back as
+// written. The file is split once here; each further pass is one of the core's own.
 #include "core/config_rewrite.h"
 #include "core/config_walk.h"
 #include "core/number_text.h"
@@ -18,25 +19,29 @@ using umbrakit::fuzz::require;
 
 namespace {
 
-// Loading a name costs a pass over the file, so a file full of heads is sampled.
-constexpr std::size_t kNamesLoaded = 32;
+// A load costs the core a pass over the file, so of a file full of heads the names at both
+// ends are loaded: where the list begins and where its room ends.
+constexpr std::size_t kNamesLoadedAtEachEnd = 4;
 
+// wholeFile: the boxes are filled from the whole file; otherwise from the record's own lines,
+// which load the same values without another split of the file.
 void checkLoad(std::string_view bytes, const std::vector<std::string>& lines,
-               const std::string& name) {
+               const std::string& name, bool wholeFile) {
     const RecordValues loaded = findRecordValues(lines, name);
-    const auto head = std::ranges::find(lines, headFor(name));
-    require(loaded.found == (head != lines.end()), "found exactly when the exact head is there");
-    // Only the seven lines behind the first exact head supply values, each to its first key.
+    const auto at = std::ranges::find(lines, headFor(name));
+    require(loaded.found == (at != lines.end()), "found exactly when the exact head is there");
+    // Only the seven lines behind the first exact head supply values, a later line of a key
+    // overwriting an earlier one.
+    const auto end = at + std::min<std::ptrdiff_t>(lines.end() - at, 1 + kValueLinesPerRecord);
     RecordValues expected{loaded.found, {}};
-    if (loaded.found)
-        for (auto line = head + 1; line != lines.end() && line - head <= kValueLinesPerRecord;
-             ++line)
-            if (const std::optional<RecordKey> key = keyOfLine(*line))
-                expected.values[std::size_t(*key)] = valueOfLine(*line);
+    for (auto line = at + (at != end); line != end; ++line)
+        if (const std::optional<RecordKey> key = keyOfLine(*line))
+            expected.values[std::size_t(*key)] = valueOfLine(*line);
     require(loaded == expected, "a row loads the values of the lines behind its first head");
+
     // The boxes show every loaded text whole; a darkness that is a number as its number text.
     DialogEntries shown;
-    showSaved(shown, bytes, name, kWestern);
+    showSaved(shown, wholeFile ? bytes : std::string_view(joinLines({at, end})), name, kWestern);
     const auto value = [&](RecordKey key) { return loaded.values[std::size_t(key)]; };
     const auto darkness = value(RecordKey::ShadowDarkness);
     const auto number = darkness ? textToNumber(*darkness) : std::nullopt;
@@ -111,19 +116,23 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             listed.push_back(names[i]);
     require(table.rows() == listed, "the list shows the first 30 names that are not empty");
 
-    std::set<std::string> loaded;
-    for (std::size_t i = 0; i < names.size() && loaded.size() < kNamesLoaded; ++i)
-        if (loaded.insert(names[i]).second)
-            checkLoad(bytes, lines, names[i]);
+    std::vector<std::string> distinct;
+    for (std::set<std::string_view> seen; const std::string& name : names)
+        if (seen.insert(name).second)
+            distinct.push_back(name);
+    for (std::size_t i = 0; i < distinct.size(); ++i)
+        if (i < kNamesLoadedAtEachEnd || i + kNamesLoadedAtEachEnd >= distinct.size())
+            checkLoad(bytes, lines, distinct[i], i == 0);
     if (!lines.empty())
-        checkLoad(bytes, lines, lines.back()); // a name the file need not hold as a head
+        checkLoad(bytes, lines, lines.back(), true); // a name the file need not hold as a head
 
     const std::string kept = rewriteConfig(bytes, table, std::nullopt);
     const std::vector<std::string> keptLines = splitLines(kept);
     require(readSavedNames(keptLines) == names, "a rewrite keeps every name of the file");
     require(keptLines.size() == names.size() * (1 + kValueLinesPerRecord),
             "a rewrite writes whole records only");
-    require(rewriteConfig(kept, SavedNameTable(kept), std::nullopt) == kept,
+    // The kept file lists the same names, so the same table reads it.
+    require(rewriteConfig(kept, table, std::nullopt) == kept,
             "a rewritten file rewrites to itself");
 
     checkSave(bytes, table, names);

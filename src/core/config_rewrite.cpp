@@ -11,21 +11,25 @@ std::string rewriteConfig(std::string_view oldBytes, const SavedNameTable& names
     std::optional<std::string_view> savedName;
     if (savedRecord)
         savedName = savedRecord->name;
-    std::vector<std::string> out;
+    // The lines go straight into the new file's bytes, each ended by CR LF.
+    std::string out;
+    const auto write = [&out](std::string_view line) {
+        out += line;
+        out += "\r\n";
+    };
     forEachRecord(lines, [&](std::size_t head, std::size_t end) {
         if (!names.keeps(nameOfHead(lines[head]), savedName))
             return;
         // A kept record cut short by the end of the file is padded with empty lines to its
         // seven: an empty line holds no key word, so loading it changes nothing, and a record
         // saved behind it keeps a head of its own instead of falling among its value lines.
-        out.insert(out.end(), lines.begin() + std::ptrdiff_t(head),
-                   lines.begin() + std::ptrdiff_t(end));
-        out.resize(out.size() + (head + 1 + kValueLinesPerRecord - end));
+        for (std::size_t line = head; line < head + 1 + kValueLinesPerRecord; ++line)
+            write(line < end ? std::string_view(lines[line]) : std::string_view());
     });
     if (savedRecord)
-        for (std::string& line : recordLines(*savedRecord))
-            out.push_back(std::move(line));
-    return joinLines(out);
+        for (const std::string& line : recordLines(*savedRecord))
+            write(line);
+    return out;
 }
 
 } // namespace umbrakit
