@@ -1,6 +1,5 @@
-// The same expectations hold on Linux, where the conversion is the program's own, and under
-// Wine, where Windows' conversion functions do it: each code page is passed, not taken from
-// the system, so both paths run on every system.
+// Each code page is passed, not taken from the system, so the program's own conversion (Linux)
+// and Windows' (under Wine) are both held to the same expectations.
 #include "core/ansi_text.h"
 
 #include <doctest/doctest.h>
@@ -19,11 +18,9 @@ constexpr std::string_view kCp1252Golden =
 
 using namespace umbrakit;
 
-// Against iconv's table (tests/core/golden/cp1252.txt, made by tools/make-code-page-golden),
-// not our own. iconv gives five bytes no character; they read as the C1 control of their own
-// number and write back to it, as Windows has them, so every byte survives a load and a Save.
-// Every other character beyond ASCII without a byte in iconv's table is refused, the other 27
-// C1 controls among them: writing U+0080 as the byte 0x80 would read back as the euro sign.
+// Against iconv's table (golden/cp1252.txt, from tools/make-code-page-golden). Its five bytes
+// without a character read as the C1 control of their number and write back to it; the other C1
+// controls are refused: U+0080 written as 0x80 would read back as the euro sign.
 TEST_CASE("Windows-1252 against iconv, every byte and every character up to U+FFFF") {
     std::map<char32_t, char> byteOf; // the characters iconv writes, and the five it does not read
     std::istringstream golden{std::string(kCp1252Golden)};

@@ -23,53 +23,43 @@ const std::u32string object = head + UR"( +traceObjectShadows "bf1942\levels\MyL
 
 } // namespace
 
-TEST_CASE("go.bat") {
+TEST_CASE("go.bat, byte for byte: every subset of passes keeps their order, no empty line") {
     Configuration c = example;
-    SUBCASE("the worked example, byte for byte") {
-        c.passes = {true, true, true};
-        const std::string expected = "@cd D:\\Games\\BF1942\r\n@D:\r\n" +
-                                     std::string(terrain.begin(), terrain.end()) + "\r\n" +
-                                     std::string(merge.begin(), merge.end()) + "\r\n" +
-                                     std::string(object.begin(), object.end()) + "\r\n";
+    for (int mask = 0; mask < 8; ++mask) {
+        c.passes = {bool(mask & 1), bool(mask & 2), bool(mask & 4)};
+        std::string expected = "@cd D:\\Games\\BF1942\r\n@D:\r\n";
+        for (auto [on, line] : {std::pair{c.passes.terrain, terrain},
+                                {c.passes.merge, merge},
+                                {c.passes.object, object}})
+            if (on)
+                expected += std::string(line.begin(), line.end()) + "\r\n";
         CHECK(std::get<std::string>(scriptBytes(c, kWestern)) == expected);
     }
-    SUBCASE("every subset keeps the order and leaves no empty line") {
-        for (int mask = 0; mask < 8; ++mask) {
-            c.passes = {bool(mask & 1), bool(mask & 2), bool(mask & 4)};
-            Lines expected = {U"@cd D:\\Games\\BF1942", U"@D:"};
-            for (auto [on, line] : {std::pair{c.passes.terrain, terrain},
-                                    {c.passes.merge, merge},
-                                    {c.passes.object, object}})
-                if (on)
-                    expected.push_back(line);
-            CHECK(composeScriptLines(c) == expected);
-        }
-    }
-    SUBCASE("texts go in as they are") {
-        c = {U"C:\\BF\\", U"MyLevel", U"Desert Combat", 2.0, {false, true, false}};
-        CHECK(
-            composeScriptLines(c) ==
-            Lines{U"@cd C:\\BF\\", U"@C:",
-                  UR"("C:\BF\\BF1942.exe" +game Desert Combat +workingFolder "C:\BF\\ShadowWork\")"
-                  UR"( +mergeTerrainShadows "bf1942\levels\MyLevel\ 2 0.4")"});
-        c.gamePath = U"X";
-        CHECK(composeScriptLines(c)[1] == U"@X");
-        c.gamePath = U"";
-        CHECK(composeScriptLines(c)[1] == U"@");
-    }
-    SUBCASE("a text the code page cannot hold is named, the first field first") {
-        c.levelName = U"Forêt Ω";
-        c.modName = U"Ж";
-        CHECK(std::get<UnwritableText>(scriptBytes(c, kWestern)) ==
-              UnwritableText{TextField::LevelName, U'Ω'});
-        // Under UTF-8 everything can be written, as UTF-8.
-        CHECK(std::get<std::string>(scriptBytes(c, kUtf8)).starts_with("@cd D:"));
-        c.levelName = U"Forêt";
-        c.modName = U"BF1942";
-        c.passes.object = true;
-        CHECK(std::get<std::string>(scriptBytes(c, kWestern)).find("levels\\For\xEAt\\\"\r\n") !=
-              std::string::npos);
-    }
+}
+
+TEST_CASE("go.bat: texts go in as they are, unless the code page cannot hold them") {
+    Configuration c{U"C:\\BF\\", U"MyLevel", U"Desert Combat", 2.0, {false, true, false}};
+    CHECK(composeScriptLines(c) ==
+          Lines{U"@cd C:\\BF\\", U"@C:",
+                UR"("C:\BF\\BF1942.exe" +game Desert Combat +workingFolder "C:\BF\\ShadowWork\")"
+                UR"( +mergeTerrainShadows "bf1942\levels\MyLevel\ 2 0.4")"});
+    c.gamePath = U"X";
+    CHECK(composeScriptLines(c)[1] == U"@X");
+    c.gamePath = U"";
+    CHECK(composeScriptLines(c)[1] == U"@");
+
+    // The first field the code page cannot hold is named; under UTF-8 everything is written.
+    c = example;
+    c.levelName = U"Forêt Ω";
+    c.modName = U"Ж";
+    CHECK(std::get<UnwritableText>(scriptBytes(c, kWestern)) ==
+          UnwritableText{TextField::LevelName, U'Ω'});
+    CHECK(std::get<std::string>(scriptBytes(c, kUtf8)).starts_with("@cd D:"));
+    c.levelName = U"Forêt";
+    c.modName = U"BF1942";
+    c.passes.object = true;
+    CHECK(std::get<std::string>(scriptBytes(c, kWestern)).find("levels\\For\xEAt\\\"\r\n") !=
+          std::string::npos);
 }
 
 TEST_CASE("completeness for a run: a darkness above 0 and three texts, blanks being text") {

@@ -33,10 +33,6 @@ std::optional<std::string> get(const RecordValues& v, RecordKey k) {
 
 TEST_CASE("lines, heads and values") {
     CHECK(splitLines("a\r\nb\rc\n\nlast") == std::vector<std::string>{"a", "b\rc", "", "last"});
-    CHECK(fileOf({rec("n")}) ==
-          "[Save=n]\r\ngamePath=D:\\Saved Games\\BF1942\r\nlevelName=lvl\r\nmodName=m\r\n"
-          "terrainBoolean=True\r\nmergeBoolean=False\r\nobjectBoolean=True\r\n"
-          "shadowDarkness=1.50\r\n");
     CHECK(nameOfHead("[Save=a=b]]") == "a=b]");
     CHECK(nameOfHead("[Save=cut") == "cu"); // the last character goes, "]" or not
     for (const char* odd : {"", "[Save]", "[Save=", "[Save=]", "x="})
@@ -68,36 +64,33 @@ TEST_CASE("awkward names and values survive the trip through the file") {
 }
 
 TEST_CASE("hand-edited files are read by position") {
-    SUBCASE("stray lines are passed over; a cut record ends the walk and is padded when kept") {
-        const std::string cut = "junk\r\n[Save=a]\r\ngamePath=x\r\nlevelName";
-        CHECK(readSavedNames(splitLines(cut)) == std::vector<std::string>{"a"});
-        const RecordValues v = findRecordValues(splitLines(cut), "a");
-        CHECK(get(v, RecordKey::GamePath) == "x");
-        CHECK(get(v, RecordKey::LevelName) == ""); // no "=" gives an empty value
-        // a record saved behind the cut one keeps its own head
-        const SavedNameTable listed(cut);
-        CHECK(rewriteConfig(cut, listed, rec("b")) ==
-              "[Save=a]\r\ngamePath=x\r\nlevelName\r\n\r\n\r\n\r\n\r\n\r\n" + fileOf({rec("b")}));
-    }
-    SUBCASE("a record of three value lines swallows the next head") {
-        auto lines = splitLines(fileOf({rec("short"), rec("next", "L2")}));
-        lines.erase(lines.begin() + 4, lines.begin() + 8);
-        CHECK(readSavedNames(lines) == std::vector<std::string>{"short"});
-        CHECK(get(findRecordValues(lines, "short"), RecordKey::LevelName) == "L2");
-        CHECK_FALSE(get(findRecordValues(lines, "short"), RecordKey::TerrainBoolean)); // 8th line
-        CHECK(findRecordValues(lines, "next").found);
-    }
-    SUBCASE("first of two identical heads counts; a level name holding gamePath is a game path") {
-        const RecordValues v =
-            findRecordValues(splitLines(fileOf({rec("d", "gamePath"), rec("d", "2")})), "d");
-        CHECK(get(v, RecordKey::GamePath) == "gamePath");
-        CHECK_FALSE(get(v, RecordKey::LevelName));
-    }
+    // Stray lines are passed over; a cut record ends the walk and is padded when kept.
+    const std::string cut = "junk\r\n[Save=a]\r\ngamePath=x\r\nlevelName";
+    CHECK(readSavedNames(splitLines(cut)) == std::vector<std::string>{"a"});
+    const RecordValues v = findRecordValues(splitLines(cut), "a");
+    CHECK(get(v, RecordKey::GamePath) == "x");
+    CHECK(get(v, RecordKey::LevelName) == ""); // no "=" gives an empty value
+    // a record saved behind the cut one keeps its own head
+    CHECK(rewriteConfig(cut, SavedNameTable(cut), rec("b")) ==
+          "[Save=a]\r\ngamePath=x\r\nlevelName\r\n\r\n\r\n\r\n\r\n\r\n" + fileOf({rec("b")}));
+
+    // A record of three value lines swallows the next head.
+    auto lines = splitLines(fileOf({rec("short"), rec("next", "L2")}));
+    lines.erase(lines.begin() + 4, lines.begin() + 8);
+    CHECK(readSavedNames(lines) == std::vector<std::string>{"short"});
+    CHECK(get(findRecordValues(lines, "short"), RecordKey::LevelName) == "L2");
+    CHECK_FALSE(get(findRecordValues(lines, "short"), RecordKey::TerrainBoolean)); // 8th line
+    CHECK(findRecordValues(lines, "next").found);
+
+    // The first of two identical heads counts; a level name holding gamePath is a game path.
+    const RecordValues twice =
+        findRecordValues(splitLines(fileOf({rec("d", "gamePath"), rec("d", "2")})), "d");
+    CHECK(get(twice, RecordKey::GamePath) == "gamePath");
+    CHECK_FALSE(get(twice, RecordKey::LevelName));
 }
 
-// A head is any line holding "Save", as config.ini has always been read: a head edited by hand
-// with a blank or other text before "[Save=" is listed, loaded only by its exact text, and kept
-// byte for byte, or deleted whole, by every rewrite.
+// A head is any line holding "Save": one edited by hand is listed, loaded only by its exact
+// text, and kept byte for byte, or deleted whole, by every rewrite.
 TEST_CASE("heads that do not start their line") {
     const std::string values = fileOf({{"x", "D:\\BF", "l", "m", {}, "1"}}).substr(10);
     const struct {

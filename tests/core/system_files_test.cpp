@@ -7,7 +7,7 @@
 
 #include <chrono>
 #include <fstream>
-#include <sstream>
+#include <iterator>
 #include <thread>
 
 using namespace umbrakit;
@@ -16,9 +16,7 @@ namespace fs = std::filesystem;
 namespace {
 std::string contentOf(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
-    std::stringstream bytes;
-    bytes << file.rdbuf();
-    return bytes.str();
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 // A fresh folder whose name holds what a shell or cmd would split on.

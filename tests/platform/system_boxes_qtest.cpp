@@ -13,13 +13,6 @@
 using namespace umbrakit;
 
 namespace {
-// Runs `answer` on the modal window as soon as it is up.
-template <typename Window> void whenShown(std::function<void(Window*)> answer) {
-    QTimer::singleShot(0, [answer] {
-        QTRY_VERIFY(qobject_cast<Window*>(QApplication::activeModalWidget()));
-        answer(qobject_cast<Window*>(QApplication::activeModalWidget()));
-    });
-}
 // The real system calls, each written down as it is made ("flush config.tmp"); the one named
 // in `failing` fails instead.
 class WatchedSystemFiles : public SystemFiles {
@@ -69,7 +62,9 @@ class SystemBoxesTest : public QObject {
         QStringList titles;
         auto answer = [&](MsgBoxButtons buttons, const char* title,
                           QMessageBox::StandardButton click) {
-            whenShown<QMessageBox>([&titles, click](QMessageBox* box) {
+            QTimer::singleShot(0, [&titles, click] { // as soon as the box is up
+                QTRY_VERIFY(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
                 titles << box->windowTitle();
                 if (click == QMessageBox::NoButton)
                     QTest::keyClick(box, Qt::Key_Return);

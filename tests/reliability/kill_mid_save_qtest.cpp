@@ -1,7 +1,6 @@
-// The paths dialog's Save killed at random instants. The test starts itself as a writer that
-// saves one record through the real dialog on real files again and again, each time as the
-// other of two variants, and kills it: config.ini must then be the old content or the new, with
-// nothing beside it but a config.tmp that the next save discards.
+// The paths dialog's Save killed at random instants: the test starts itself as a writer that
+// saves one record through the real dialog, in two variants by turns, and kills it. config.ini
+// must be the old content or the new, beside it at most a config.tmp the next save discards.
 #include <QDir>
 #include <QProcess>
 #include <QRandomGenerator>
@@ -9,8 +8,6 @@
 #include <chrono>
 #include <thread>
 
-#include "core/config_walk.h"
-#include "core/text_lines.h"
 #include "support/dialog_driver.h"
 
 using namespace umbrakit;
@@ -71,8 +68,6 @@ class KillMidSaveTest : public QObject {
         const int asked = qEnvironmentVariableIntValue("UMBRAKIT_KILLS");
         const int kills = asked > 0 ? asked : 1000;
         const QByteArray complete[] = {completeContent(0), completeContent(1)};
-        for (const QByteArray& content : complete)
-            QCOMPARE(readSavedNames(splitLines(content.toStdString())).size(), std::size_t(4));
         TestApp folder; // only its folder: the writer runs on its own
         folder.write("config.ini", complete[0]);
 

@@ -1,6 +1,5 @@
-// The program as a test meets it: the main window started on a temporary program folder,
-// real files, boxes and file dialogs answered from queues, a launcher that starts nothing;
-// and the mouse as a user moves it.
+// The main window on a temporary program folder with the test doubles; the mouse as a user
+// moves it.
 #pragma once
 
 #include <QAbstractItemView>

@@ -1,6 +1,4 @@
-// The test doubles: boxes and file dialogs answered from queues, file operations on the real
-// disk any one of which can be made to fail, and a launcher that starts nothing. How tests and
-// benchmarks meet the program's boxes, disk and batch processor without a person.
+// How tests and benchmarks meet the program's boxes, disk and batch processor without a person.
 #pragma once
 
 #include <QList>
@@ -19,6 +17,7 @@ struct AskedBox {
     QString title;
 };
 
+// Boxes and file dialogs answered from queues.
 class ScriptedDialogs : public Dialogs {
   public:
     QQueue<MsgBoxAnswer> boxAnswers; // an empty queue answers OK, or No to a Yes/No box

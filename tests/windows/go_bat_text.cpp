@@ -1,7 +1,5 @@
-// Prints the bytes of go.bat for a configuration given on the command line, so that a test
-// script can hand the core's own composition to a real batch processor.
+// Prints the core's go.bat for a real batch processor to run. <passes>: t, m, o or "-" for none.
 //   go_bat_text <gamePath> <levelName> <modName> <shadowDarkness> <passes>
-// <passes> holds t, m and o for the terrain, merge and object passes, or "-" for none.
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -15,7 +13,8 @@ int main(int argc, char** argv) {
         return 2;
     const std::string_view passes = argv[5];
     using umbrakit::fromAnsi, umbrakit::kWestern;
-    const umbrakit::Configuration c{fromAnsi(argv[1], kWestern), fromAnsi(argv[2], kWestern),
+    const umbrakit::Configuration c{fromAnsi(argv[1], kWestern),
+                                    fromAnsi(argv[2], kWestern),
                                     fromAnsi(argv[3], kWestern),
                                     umbrakit::textToNumber(argv[4]).value_or(0),
                                     {passes.find('t') != std::string_view::npos,

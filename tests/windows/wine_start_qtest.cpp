@@ -1,6 +1,5 @@
-// The real start on Linux: "&Go!" writes go.bat and hands it to Wine through the program's own
-// SystemLauncher, and the stand-in BF1942.exe records how Wine's cmd started it. Run by ctest,
-// which builds the stand-in (UMBRAKIT_STAND_IN) and makes the Wine prefix (WINEPREFIX).
+// "&Go!" writes go.bat and hands it to Wine through the real SystemLauncher; the stand-in
+// BF1942.exe (UMBRAKIT_STAND_IN, built by ctest with the WINEPREFIX) records how cmd started it.
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -39,8 +38,7 @@ class WineStartTest : public QObject {
         QVERIFY2(!standIn.isEmpty() && qEnvironmentVariableIsSet("WINEPREFIX"),
                  "run through ctest: it builds the stand-in engine and makes the Wine prefix");
         QTemporaryDir root;
-        const QString appDir = root.filePath("Umbrakit");
-        const QString gameDir = root.filePath("Games/BF1942");
+        const QString appDir = root.filePath("Umbrakit"), gameDir = root.filePath("Games/BF1942");
         QVERIFY(QDir().mkpath(appDir) && QDir().mkpath(gameDir));
         QVERIFY(QFile::copy(standIn, gameDir + "/BF1942.exe"));
 

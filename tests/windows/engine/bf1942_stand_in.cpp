@@ -1,14 +1,8 @@
-// Stands in for the game's BF1942.exe when go.bat is run by a real batch processor: it writes
-// down how it was started and exits. Like the engine it is a windowed program that reads its
-// own raw command line; the C runtime's argument split would treat the backslash in
-// "ShadowWork\" as escaping the closing quote, which the engine does not.
-//
-// Each start appends to BF1942.log beside the program, in UTF-8 with LF line ends:
-//   start <the command line exactly as GetCommandLineW gives it>
-//   folder <the working folder>
-//   end
-// The pause before "end" lets a test see whether the batch processor waited for one pass to
-// finish before it started the next: the engine's passes read each other's results.
+// Stands in for BF1942.exe under a real batch processor. Like the engine it is a windowed
+// program reading its raw command line (the C runtime's split would take the backslash in
+// "ShadowWork\" as escaping the quote). Each start appends to BF1942.log beside it, UTF-8, LF:
+// "start <GetCommandLineW>", "folder <working folder>", then after a pause "end", so that a test
+// sees whether one pass finished before the next began: the passes read each other's results.
 #include <windows.h>
 
 #include <string>
