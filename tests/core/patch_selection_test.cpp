@@ -1,6 +1,7 @@
 // The patch selection as the user works it: world sizes chosen, patches clicked, Select All and
 // Clear, and the lmList.dat records that follow. Steps: "w1" chooses the world-size list's
 // row 1, "c17" clicks patch 17, "A" is Select All under the row last chosen, "C" is Clear.
+#include "core/lmlist_format.h"
 #include "core/patch_selection.h"
 
 #include <doctest/doctest.h>
@@ -70,9 +71,26 @@ TEST_CASE("which patches stay ticked") {
     }
 }
 
-TEST_CASE("lmList.dat holds the ticked patches as they stand, column then row") {
+TEST_CASE("each world is a square block in the bottom left corner") {
+    const int sides[] = {4, 8, 12, 16, 16}; // "16x16" is 12 by 12; past the table, the whole grid
+    for (int listIndex = 0; listIndex < 5; ++listIndex)
+        for (int patch = 0; patch < kPatchCount; ++patch)
+            CHECK(isInWorld(patch, worldSizeFor(listIndex)) ==
+                  (patchColumn(patch) < sides[listIndex] && patchRow(patch) < sides[listIndex]));
+}
+
+TEST_CASE("lmList.dat: column then row of each patch whose value is exactly 1") {
+    PatchValues values{};
+    CHECK(encodeLmList(values).empty());
+    values[0] = values[5] = values[35] = values[255] = 1; // the worked example
+    values[1] = 2;
+    values[2] = -1;
+    CHECK(encodeLmList(values) == std::string("\x00\x00\x05\x00\x03\x02\x0F\x0F", 8));
+    // The ticked patches as they stand: "16x16" has 144, the whole grid 256.
     CHECK(after("w1 A w0").lmListRecords() ==
           std::string("\0\0\1\0\2\0\3\0\0\1\1\1\2\1\3\1\0\2\1\2\2\2\3\2\0\3\1\3\2\3\3\3", 32));
-    CHECK(after("w2 A").lmListRecords().size() == 2 * 144); // "16x16": 144 patches, not 256
-    CHECK(after("w3 A").lmListRecords().size() == 2 * 256);
+    CHECK(after("w2 A").lmListRecords().size() == 2 * 144);
+    const std::string all = after("w3 A").lmListRecords();
+    REQUIRE(all.size() == 512);
+    CHECK(all.substr(30, 4) == std::string("\x0F\x00\x00\x01", 4)); // row 0 ends, row 1 begins
 }

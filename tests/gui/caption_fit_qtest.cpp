@@ -3,7 +3,6 @@
 // program's own font installed as the program installs it.
 #include <QCheckBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStyleOption>
@@ -148,22 +147,6 @@ void everyCaptionWholeIn(const QString& family) {
 class CaptionFitTest : public QObject {
     Q_OBJECT
   private slots:
-    // The check itself sees a caption that is cut.
-    void aCutCaptionIsSeen() {
-        QWidget window;
-        auto* box = new QCheckBox("Generate &TerrainShadows", &window);
-        box->setObjectName("narrow");
-        box->setGeometry(0, 0, 60, 15);
-        auto* low = new QLabel("Umbrakit and lmList.dat Generator", &window);
-        low->setGeometry(0, 20, 300, 4);
-        auto* covered = new QLabel("Shadow Darkness:", &window);
-        covered->setGeometry(0, 30, 300, 20);
-        (new QLineEdit(&window))->setGeometry(20, 30, 100, 20); // over the label's text
-        const QStringList cut = cutCaptions(&window);
-        QCOMPARE(cut.size(), 3);
-        QVERIFY(cut[0].startsWith("narrow \"Generate &TerrainShadows\" needs"));
-    }
-
     // The system's font alone, the program's own withheld: the fitting keeps every caption.
     void systemFontOnly() { everyCaptionWholeIn(qEnvironmentVariable("CAPTION_FIT_FAMILY")); }
 

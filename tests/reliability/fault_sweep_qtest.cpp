@@ -203,6 +203,8 @@ class FaultSweepTest : public QObject {
                     listed << (fault == "unreadable" && command == "open" ? "" : record.first);
                 listed.removeAll("");
                 QVERIFY2(app.dialogs.boxes.size() == boxes + !fault.isEmpty() &&
+                             (fault.isEmpty() || app.dialogs.boxes.last().prompt.contains(
+                                                     QDir::toNativeSeparators(config))) &&
                              recordsIn(app.bytesOf("config.ini")) == saved &&
                              rowsOf(openPaths(app).savedList) == listed &&
                              !QFile::exists(app.path("config.tmp")),

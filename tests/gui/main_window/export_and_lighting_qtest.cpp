@@ -1,5 +1,6 @@
 // The export of lmList.dat and the lighting run as the user meets them; the bytes are the core's.
 #include <QDir>
+#include <QMenu>
 #include <QPushButton>
 #include <QtTest>
 
@@ -68,25 +69,41 @@ class ExportAndLightingTest : public QObject {
                  "D:\\Games\\BF1942\\ShadowWork\\bf1942\\levels\\MyLevel\\textures");
     }
 
-    void everyRouteWritesTheScriptAndStartsIt() {
-        for (const int passes : {7, 1, 5}) { // terrain 1, merge 2, object 4; by button, menu, keys
+    // Each entry of Run, Options, found by its caption, ticks itself and its box alone; by the
+    // button, the menu and Ctrl+G, go.bat then runs that pass alone and is started.
+    void eachPassEntryAndEveryRouteWriteTheScriptAndStartIt() {
+        const char* const passes[][3] = {
+            {"Generate &TerrainShadows", "Generate &TerrainShadows", "+traceTerrainShadows"},
+            {"&Merge TerrainShadows", "&Merge TerrainShadows", "+mergeTerrainShadows"},
+            {"&Generate ObjectShadows", "Generate &ObjectShadows", "+traceObjectShadows"}};
+        for (int route = 0; route < 3; ++route) {
+            const auto& [entryCaption, boxCaption, engineOption] = passes[route];
             TestApp app;
+            MainWindow& w = *app.window;
             app.write("go.bat", kOld);
             app.setPaths(kGame, U"MyLevel", U"BF1942");
-            for (Pass pass : kPasses)
-                if (passes & (1 << int(pass)))
-                    clickBox(app.window->passBoxes[int(pass)]);
-            if (passes == 7) {
-                QTest::mouseClick(app.window->runLightingButton, Qt::LeftButton);
-            } else if (passes == 1) {
-                app.window->goEntry->trigger();
+            const QList<QAction*> entries = w.findChild<QMenu*>("menuRunOption")->actions();
+            const auto entry = std::ranges::find(entries, entryCaption, &QAction::text);
+            QVERIFY2(entry != entries.end(), entryCaption);
+            (*entry)->trigger();
+            for (QAction* other : entries)
+                QCOMPARE(other->isChecked(), other == *entry);
+            for (QCheckBox* box : w.findChildren<QCheckBox*>())
+                QVERIFY2(box->isChecked() == (box->text() == boxCaption), boxCaption);
+            if (route == 0) {
+                QTest::mouseClick(w.runLightingButton, Qt::LeftButton);
+            } else if (route == 1) {
+                w.goEntry->trigger();
             } else {
-                app.window->activateWindow();
-                QVERIFY(QTest::qWaitForWindowActive(app.window.get()));
-                QTest::keyClick(app.window.get(), Qt::Key_G, Qt::ControlModifier);
+                w.activateWindow();
+                QVERIFY(QTest::qWaitForWindowActive(&w));
+                QTest::keyClick(&w, Qt::Key_G, Qt::ControlModifier);
             }
-            const auto script = scriptBytes(app.window->configuration(), kWestern);
-            QCOMPARE(app.bytesOf("go.bat").toStdString(), std::get<std::string>(script));
+            const QByteArray script = app.bytesOf("go.bat");
+            QCOMPARE(script.toStdString(),
+                     std::get<std::string>(scriptBytes(w.configuration(), kWestern)));
+            QVERIFY2(script.count('\n') == 3 && script.split('\n')[2].contains(engineOption),
+                     script.constData());
             QCOMPARE(app.files.journal.constLast(),
                      "renameOver " + app.path("go.bat.tmp") + " " + app.path("go.bat"));
             QCOMPARE(app.launcher.started, QStringList{app.path("go.bat")});

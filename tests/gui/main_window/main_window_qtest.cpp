@@ -1,7 +1,6 @@
 // The main window as the user meets it: the patch grid as it shows the selection, the three
 // passes kept in step whichever way they change, the status line's timer, and the end.
 #include <QLabel>
-#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QtTest>
@@ -104,34 +103,6 @@ class MainWindowTest : public QObject {
             }
             box->setValue(1); // left on while the next is tried
             on[pass] = true;
-        }
-    }
-
-    // By their captions: each entry of Run, Options ticks itself and its box alone, and go.bat
-    // then runs that pass alone.
-    void eachPassEntrySwitchesThePassItNames() {
-        TestApp app;
-        MainWindow& w = *app.window;
-        app.setPaths(U"D:\\BF1942", U"Level", U"BF1942");
-        const char* const passes[][3] = {
-            {"Generate &TerrainShadows", "Generate &TerrainShadows", "+traceTerrainShadows"},
-            {"&Merge TerrainShadows", "&Merge TerrainShadows", "+mergeTerrainShadows"},
-            {"&Generate ObjectShadows", "Generate &ObjectShadows", "+traceObjectShadows"}};
-        const QList<QAction*> entries = w.findChild<QMenu*>("menuRunOption")->actions();
-        const QList<QCheckBox*> boxes = w.findChildren<QCheckBox*>();
-        for (const auto& [entryCaption, boxCaption, engineOption] : passes) {
-            const auto entry = std::ranges::find(entries, entryCaption, &QAction::text);
-            QVERIFY2(entry != entries.end(), entryCaption);
-            (*entry)->trigger();
-            for (QAction* other : entries)
-                QCOMPARE(other->isChecked(), other == *entry);
-            for (QCheckBox* box : boxes)
-                QVERIFY2(box->isChecked() == (box->text() == boxCaption), boxCaption);
-            QTest::mouseClick(w.runLightingButton, Qt::LeftButton);
-            const QList<QByteArray> lines = app.bytesOf("go.bat").split('\n');
-            QVERIFY2(lines.size() == 4 && lines[2].contains(engineOption),
-                     lines.value(2).constData());
-            (*entry)->trigger();
         }
     }
 

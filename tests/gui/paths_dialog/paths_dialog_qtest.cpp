@@ -110,20 +110,6 @@ class PathsDialogTest : public QObject {
         QCOMPARE(app.bytesOf("config.ini"), record("Big", big, "l", "m", "000", "1"));
     }
 
-    // A list that the load could not read is read before a rewrite, or records would go.
-    void aListThatCouldNotBeReadIsReadBeforeARewrite() {
-        TestApp app;
-        app.write("config.ini", kWake + kMidway);
-        app.files.failAt = 1;
-        PathsDialogWindow& w = openPaths(app);
-        QVERIFY(app.dialogs.boxes.at(0).prompt.contains(app.path("config.ini")));
-        QCOMPARE(rowsOf(w.savedList), QStringList{"(Current)"});
-        type(w.nameBox, "New");
-        click(w.saveButton);
-        QCOMPARE(rowsOf(w.savedList), QStringList({"(Current)", "Wake", "Midway", "New"}));
-        QVERIFY(app.bytesOf("config.ini").startsWith(kWake + kMidway));
-    }
-
     // Only the length counts: the last 11 characters go, whatever they are.
     void browseKeepsWhatStandsBeforeTheExeName() {
         TestApp app;
