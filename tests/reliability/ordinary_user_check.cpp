@@ -39,9 +39,8 @@ int main(int argc, char* argv[]) {
     window->applyConfiguration({U"C:\\BF", U"Level", U"BF1942", 1.5, {}});
     window->runLightingButton->click();
     if (dialogs.boxes.size() != 4 || !launcher.started.isEmpty())
-        problems << QString("%1 boxes, %2 started")
-                        .arg(dialogs.boxes.size())
-                        .arg(launcher.started.size());
+        problems << QString::asprintf("%lld boxes, %lld started", dialogs.boxes.size(),
+                                      launcher.started.size());
     for (const QString& problem : problems)
         std::puts(qPrintable(problem));
     return int(problems.size());
