@@ -27,23 +27,9 @@ struct Command {
     QString file;                   // the file it writes; a ".tmp" beside it until the rename
     QByteArray written;             // that file once a run completes
     int fewestPoints;               // a shorter sweep has missed operations
-    QString failedState, doneState; // stateOf() after a failure, and after the run that completes
+    QString failedState, doneState; // the state after a failure, and after the run that completes
     std::function<void(TestApp&)> prepare, run;
 };
-
-// The status line, the timer, the boxes, what was started and the dialog's rows and texts.
-QString stateOf(TestApp& app) {
-    QString state = app.status() + (app.window->statusTimer->Enabled() ? " +timer" : "");
-    state += QString(" boxes %1").arg(app.dialogs.boxes.size());
-    for (const QString& started : app.launcher.started)
-        state += " started " + QFileInfo(started).fileName();
-    if (const PathsDialog* dialog = app.window->pathsDialog(); dialog && dialog->isLoaded())
-        state += QString(" %1@%2 ")
-                     .arg(rowsOf(dialog->window()->savedList).join(','))
-                     .arg(dialog->window()->savedList->ListIndex()) +
-                 texts(*dialog->window());
-    return state;
-}
 
 const QString kMidwayChanged = "Midway|E:\\BF|changed|DesertCombat|2|011";
 const Command kCommands[] = {
@@ -76,7 +62,8 @@ const Command kCommands[] = {
      [](TestApp& app) { click(app.window->pathsDialog()->window()->deleteButton); }},
 };
 
-// What must hold after every run, failed or not; empty when all holds.
+// What must hold after every run, failed or not; empty when all holds. The state is the status
+// line, the timer, the boxes, what was started and the dialog's rows and texts.
 QStringList problemsAfter(TestApp& app, const Command& c, bool failed) {
     QStringList found;
     for (const auto& [name, bytes] : kKept.asKeyValueRange())
@@ -89,7 +76,16 @@ QStringList problemsAfter(TestApp& app, const Command& c, bool failed) {
     if (failed && !(box.style.icon == MsgBoxIcon::Critical && box.prompt.contains("Injected") &&
                     box.prompt.contains(QDir::toNativeSeparators(app.path(c.file)))))
         found << "box " + box.prompt;
-    if (const QString state = stateOf(app); state != (failed ? c.failedState : c.doneState))
+    QString state = app.status() + (app.window->statusTimer->Enabled() ? " +timer" : "");
+    state += QString(" boxes %1").arg(app.dialogs.boxes.size());
+    for (const QString& started : app.launcher.started)
+        state += " started " + QFileInfo(started).fileName();
+    if (const PathsDialog* dialog = app.window->pathsDialog(); dialog && dialog->isLoaded())
+        state += QString(" %1@%2 ")
+                     .arg(rowsOf(dialog->window()->savedList).join(','))
+                     .arg(dialog->window()->savedList->ListIndex()) +
+                 texts(*dialog->window());
+    if (state != (failed ? c.failedState : c.doneState))
         found << "state " + state;
     return found;
 }
@@ -162,27 +158,21 @@ class FaultSweepTest : public QObject {
                 const QString fault = step.contains(':') ? step.section(':', 0, 0) : QString();
                 const QStringList words = step.section(':', -1).split(' ');
                 const QString command = words[0], name = words.value(1);
-                const auto injectFault = [&] {
-                    app.files.failNext = failing.value(fault);
-                    if (fault == "readonly")
-                        QFile::setPermissions(config, QFile::ReadOwner);
-                };
                 const qsizetype boxes = app.dialogs.boxes.size();
                 if (command == "open")
-                    injectFault();
+                    app.files.failNext = failing.value(fault);
                 PathsDialogWindow& w = openPaths(app);
                 const int row = int(rowsOf(w.savedList).indexOf(name));
-                Records after = saved;
-                after.removeIf([&name](const auto& record) { return record.first == name; });
                 if (command == "save") {
                     type(w.nameBox, name);
                     type(w.levelBox, words[2]);
-                    after.append({name, words[2]});
                 } else if (command == "delete" || command == "load") {
                     chooseRow(w.savedList, row);
                     QCOMPARE(w.levelBox->text(), saved[row - 1].second);
                 }
-                injectFault();
+                app.files.failNext = failing.value(fault);
+                if (fault == "readonly")
+                    QFile::setPermissions(config, QFile::ReadOwner);
                 if (command == "save" || command == "delete")
                     click(command == "save" ? w.saveButton : w.deleteButton);
                 if (command == "ok") {
@@ -192,12 +182,14 @@ class FaultSweepTest : public QObject {
                 QCOMPARE(toQString(app.window->configuration().levelName), applied);
                 app.files.failNext.clear();
                 QFile::setPermissions(config, QFile::ReadOwner | QFile::WriteOwner);
-                if (fault.isEmpty() && command != "load" && command != "ok")
-                    saved = after;
-                QStringList listed{"(Current)"};
-                for (const auto& record : saved) // only what could be read
-                    listed << (fault == "unreadable" && command == "open" ? "" : record.first);
-                listed.removeAll("");
+                if (fault.isEmpty() && (command == "save" || command == "delete"))
+                    saved.removeIf([&name](const auto& record) { return record.first == name; });
+                if (fault.isEmpty() && command == "save")
+                    saved.append({name, words[2]});
+                QStringList listed{"(Current)"}; // and the names, when config.ini could be read
+                for (const auto& record :
+                     fault == "unreadable" && command == "open" ? Records() : saved)
+                    listed << record.first;
                 QVERIFY2(app.dialogs.boxes.size() == boxes + !fault.isEmpty() &&
                              (fault.isEmpty() || app.dialogs.boxes.last().prompt.contains(
                                                      QDir::toNativeSeparators(config))) &&

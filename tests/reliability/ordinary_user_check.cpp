@@ -1,7 +1,6 @@
-// The program in a folder of root's that this user may not write, not marked read-only: the
-// notice at start-up, then Save, Delete and a lighting run, each refused with a box. Run as
-// nobody by ordinary_user_test.sh; prints what did not hold and returns how much.
-//   ordinary_user_check <program folder holding config.ini with the record "Wake">
+// Run as nobody by ordinary_user_test.sh on a folder of root's, not marked read-only, holding a
+// config.ini with the record "Wake": the notice at start-up, then Save, Delete and a lighting
+// run, each refused with a box. Prints what did not hold and returns how much.
 #include <QApplication>
 #include <unistd.h>
 
