@@ -1,7 +1,6 @@
 // Where the handlers rely on a list behaving otherwise than a plain Qt combo box. The check
 // box's one Click per real change, the menu tick that only the program sets and the timer that
 // a second start does not put back are tested through the main window.
-#include <QSignalSpy>
 #include <QtTest>
 
 #include "platform/combo_list.h"

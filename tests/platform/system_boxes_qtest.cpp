@@ -2,7 +2,6 @@
 // folder, their system calls watched. The real file dialog is driven by the package test.
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include "platform/disk_file_ops.h"

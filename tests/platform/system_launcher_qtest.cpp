@@ -1,8 +1,5 @@
 // The real start of a script: detached, at once, with the script's path as one argument. The
 // start through Wine itself is wine_start_qtest, labelled windows.
-#include <QDeadlineTimer>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include "platform/system_launcher.h"

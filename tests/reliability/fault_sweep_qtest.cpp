@@ -1,8 +1,5 @@
-// Every file operation of every command that writes a file fails in turn: the user is told, the
-// files are byte for byte as they were, no temporary file is left, the windows are as before.
-// Then the user goes on working after failures, and nothing saved is lost.
-#include <QDir>
-#include <QFileInfo>
+// Each file operation of each command that writes fails in turn: the user is told, no file changes
+// or is left behind, the windows are as before; and work after failures loses nothing saved.
 #include <QtTest>
 #include <functional>
 
@@ -120,7 +117,7 @@ class FaultSweepTest : public QObject {
                 app.files.failAt = ++failAt;
                 c.run(app);
                 failed = app.files.operations >= failAt;
-                const QString failure = failed ? app.files.journal.value(failAt - 1) : "none";
+                const QString failure = app.files.journal.value(failAt - 1, "none");
                 const QStringList problems = problemsAfter(app, c, failed);
                 QVERIFY2(problems.isEmpty(),
                          qPrintable(c.name + (", " + failure + ": ") + problems.join("; ")));

@@ -1,12 +1,7 @@
 // The paths dialog's Save killed at random instants: the test starts itself as a writer that
 // saves one record through the real dialog, in two variants by turns, and kills it. config.ini
 // must be the old content or the new, beside it at most a config.tmp the next save discards.
-#include <QDir>
-#include <QProcess>
-#include <QRandomGenerator>
 #include <QtTest>
-#include <chrono>
-#include <thread>
 
 #include "support/dialog_driver.h"
 
@@ -18,10 +13,8 @@ const QByteArray kGamePath[] = {"C:\\BF1942", "D:\\Games\\BF1942 " + QByteArray(
 const char* const kDarkness[] = {"1.5", "2.25"};
 
 QByteArray completeContent(int variant) { // three kept records, then the saved one
-    QByteArray kept;
-    for (const char* name : {"Kept 1", "Kept 2", "Kept 3"})
-        kept += record(name, "E:\\BF", name, "EoD", "110", "0.5");
-    return kept + record("Killed", kGamePath[variant], "Wake", "BF1942", "000", kDarkness[variant]);
+    return kWake + kMidway + kBerlin +
+           record("Killed", kGamePath[variant], "Wake", "BF1942", "000", kDarkness[variant]);
 }
 
 // The writer: prints "saving" as it starts and "saved" after every save, until it is killed.
@@ -74,17 +67,17 @@ class KillMidSaveTest : public QObject {
         // Kill instants are spread evenly over three saves, so every step of a save is hit.
         QProcess calibration;
         QVERIFY2(startLoop(calibration, folder.dir.path()), "the save loop did not start");
-        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        QThread::msleep(300);
         calibration.waitForReadyRead(0);
         const int saves = int(calibration.readAll().count("saved"));
         QVERIFY2(kill(calibration) && saves > 0, "the save loop does not save");
-        const auto spread = std::chrono::microseconds(3 * 300000 / saves);
+        const double spread = 3 * 300000.0 / saves; // microseconds
 
         int corrupt = 0, stray = 0, unkilled = 0, tmpLeft = 0;
         for (int k = 0; k < kills; ++k) {
             QProcess loop;
             QVERIFY2(startLoop(loop, folder.dir.path()), "the save loop did not start");
-            std::this_thread::sleep_for(spread * QRandomGenerator::global()->generateDouble());
+            QThread::usleep(ulong(spread * QRandomGenerator::global()->generateDouble()));
             unkilled += !kill(loop);
             const QByteArray bytes = folder.bytesOf("config.ini");
             if (bytes != complete[0] && bytes != complete[1]) {
