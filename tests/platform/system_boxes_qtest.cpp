@@ -53,15 +53,14 @@ class SystemBoxesTest : public QObject {
   private slots:
     void theMessageBoxAnswersYesNoAndOk() {
         QtDialogs dialogs;
-        QStringList titles;
         auto answer = [&](MsgBoxButtons buttons, const char* title,
                           QMessageBox::StandardButton click) {
-            QTimer::singleShot(0, [&titles, click] { // as soon as the box is up
+            QTimer::singleShot(0, [title, click] { // as soon as the box is up
                 QTRY_VERIFY(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
                 auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                titles << box->windowTitle();
                 click ? QTest::mouseClick(box->button(click), Qt::LeftButton)
                       : QTest::keyClick(box, Qt::Key_Return);
+                QCOMPARE(box->windowTitle(), QString(*title ? title : "Umbrakit")); // or no title
             });
             return dialogs.msgBox("Prompt", {buttons}, title);
         };
@@ -70,7 +69,6 @@ class SystemBoxesTest : public QObject {
                  MsgBoxAnswer::Yes);
         QCOMPARE(answer(MsgBoxButtons::YesNo, "File Exists...", QMessageBox::No), MsgBoxAnswer::No);
         QCOMPARE(answer(MsgBoxButtons::Ok, "", QMessageBox::NoButton), MsgBoxAnswer::Ok);
-        QCOMPARE(titles, QStringList({"File Exists...", "File Exists...", "Umbrakit"}));
     }
 
     // The user's protection holds even for an administrator, who could write anyway: a file or

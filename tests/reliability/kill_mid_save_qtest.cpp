@@ -93,9 +93,7 @@ class KillMidSaveTest : public QObject {
         qInfo("kills: %d, corrupt files: %d, stray files: %d; one save takes %.2f ms; %d kills "
               "left a config.tmp; %d found the loop not saving",
               kills, corrupt, stray, 300.0 / saves, tmpLeft, unkilled);
-        QCOMPARE(corrupt, 0);
-        QCOMPARE(stray, 0);
-        QCOMPARE(unkilled, 0);
+        QCOMPARE(std::tuple(corrupt, stray, unkilled), std::tuple(0, 0, 0));
     }
 };
 

@@ -40,7 +40,6 @@ int main(int argc, char* argv[]) {
     if (dialogs.boxes.size() != 4 || !launcher.started.isEmpty())
         problems << QString::asprintf("%lld boxes, %lld started", dialogs.boxes.size(),
                                       launcher.started.size());
-    for (const QString& problem : problems)
-        std::puts(qPrintable(problem));
+    std::puts(qPrintable(problems.join('\n')));
     return int(problems.size());
 }
