@@ -19,13 +19,8 @@ QByteArray completeContent(int variant) { // three kept records, then the saved 
 
 // The writer: prints "saving" as it starts and "saved" after every save, until it is killed.
 int saveLoop(const QString& folder) {
-    DiskFileOps files;
-    ScriptedDialogs dialogs;
-    FakeLauncher launcher;
-    Services services{folder, files, dialogs, launcher, [] {}};
-    const auto window = MainWindow::start(services);
-    window->setPathsEntry->trigger();
-    PathsDialogWindow& w = *window->pathsDialog()->window();
+    TestApp app(folder);
+    PathsDialogWindow& w = openPaths(app);
     w.nameBox->setText("Killed");
     w.levelBox->setText("Wake");
     w.modBox->setText("BF1942");
@@ -35,7 +30,7 @@ int saveLoop(const QString& folder) {
         w.gamePathBox->setText(kGamePath[variant]);
         w.darknessBox->setText(kDarkness[variant]);
         w.saveButton->click();
-        if (!dialogs.boxes.isEmpty())
+        if (!app.dialogs.boxes.isEmpty())
             return 1; // a save that failed leaves no state the test could expect
         std::puts("saved");
     }

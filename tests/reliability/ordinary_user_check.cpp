@@ -16,30 +16,26 @@ int main(int argc, char* argv[]) {
     QStringList problems;
     if (::geteuid() == 0)
         problems << "run as root";
-    DiskFileOps files;
-    ScriptedDialogs dialogs;
-    FakeLauncher launcher;
-    Services services{folder, files, dialogs, launcher, [] {}};
-    const auto window = MainWindow::start(services);
-    tellIfProgramFolderIsReadOnly(services);
-    const AskedBox notice = dialogs.boxes.value(0);
-    if (dialogs.boxes.size() != 1 || notice.title != "Read-Only Folder" ||
+    TestApp program(folder);
+    tellIfProgramFolderIsReadOnly(program.services);
+    const QList<AskedBox>& boxes = program.dialogs.boxes;
+    const AskedBox notice = boxes.value(0);
+    if (boxes.size() != 1 || notice.title != "Read-Only Folder" ||
         !notice.prompt.contains(QDir::toNativeSeparators(folder)))
         problems << "no notice naming the folder";
 
-    window->setPathsEntry->trigger();
-    PathsDialogWindow& w = *window->pathsDialog()->window();
+    PathsDialogWindow& w = openPaths(program);
     if (rowsOf(w.savedList) != QStringList{"(Current)", "Wake"})
         problems << "the list shows " + rowsOf(w.savedList).join(',');
     w.nameBox->setText("New");
     w.saveButton->click();
     w.savedList->setListIndex(1);
     w.deleteButton->click();
-    window->applyConfiguration({U"C:\\BF", U"Level", U"BF1942", 1.5, {}});
-    window->runLightingButton->click();
-    if (dialogs.boxes.size() != 4 || !launcher.started.isEmpty())
-        problems << QString::asprintf("%lld boxes, %lld started", dialogs.boxes.size(),
-                                      launcher.started.size());
+    program.window->applyConfiguration({U"C:\\BF", U"Level", U"BF1942", 1.5, {}});
+    program.window->runLightingButton->click();
+    if (boxes.size() != 4 || !program.launcher.started.isEmpty())
+        problems << QString::asprintf("%lld boxes, %lld started", boxes.size(),
+                                      program.launcher.started.size());
     std::puts(qPrintable(problems.join('\n')));
     return int(problems.size());
 }

@@ -5,6 +5,7 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -18,14 +19,17 @@ namespace umbrakit {
 
 struct TestApp {
     QTemporaryDir dir;
+    QString folder = dir.path(); // the program's folder: a temporary one unless given
     FaultyFileOps files;
     ScriptedDialogs dialogs;
     FakeLauncher launcher;
     int endCalls = 0;
-    Services services{dir.path(), files, dialogs, launcher, [this] { ++endCalls; }};
+    Services services{folder, files, dialogs, launcher, [this] { ++endCalls; }};
     std::unique_ptr<MainWindow> window = MainWindow::start(services);
 
-    QString path(const QString& name) const { return dir.filePath(name); }
+    TestApp() = default;
+    explicit TestApp(const QString& programFolder) : folder(programFolder) {}
+    QString path(const QString& name) const { return QDir(folder).filePath(name); }
     QByteArray bytesOf(const QString& name) const {
         QFile file(path(name));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
