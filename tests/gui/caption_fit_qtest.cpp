@@ -1,6 +1,5 @@
-// Every caption of every window shown whole, measured as Qt draws it in the style's room for the
-// text, under one font family at a time (cmake/fonts.cmake): first the system's alone, then the
-// program's own font installed as the program installs it.
+// Every caption of every window shown whole as Qt draws it in the style's room for the text, under
+// one font family at a time (cmake/fonts.cmake): the system's alone, then the program's own.
 #include <QCheckBox>
 #include <QLabel>
 #include <QMenuBar>
@@ -32,8 +31,7 @@ QStyleOptionButton optionsOf(const QAbstractButton* button) {
 }
 
 QString shown(QString caption) {
-    caption.replace("&&", "\x01").remove('&').replace("\x01", "&");
-    return caption;
+    return caption.replace("&&", "\x01").remove('&').replace("\x01", "&");
 }
 
 // Where the text's ink falls when drawn with these flags in this room.
@@ -84,8 +82,6 @@ QStringList cutCaptions(QWidget* window) {
               button->rect());
     }
     for (QLabel* label : window->findChildren<QLabel*>()) {
-        if (label->text().isEmpty())
-            continue;
         const int wrap = label->wordWrap() ? Qt::TextWordWrap : 0;
         check(label, label->text(), label->contentsRect(), int(label->alignment()) | wrap,
               label->contentsRect());

@@ -1,5 +1,4 @@
-// The program by keyboard and as a screen reader meets it: keys and the mouse go to the shown
-// window, which routes them as a user's. Runs under Xvfb with the accessibility bus on.
+// The shown program by keyboard, mouse and screen reader (Xvfb, the accessibility bus on).
 #include <QAccessible>
 #include <QLabel>
 #include <QtTest>
@@ -33,8 +32,7 @@ QList<int> ticked(const PatchGrid& grid) {
             patches << i;
     return patches;
 }
-// The patches the screen shows with the focus ring: its colour in the margin on at least two
-// sides of the box (at the grid's edges a header or the edge may hide two).
+// The patches shown with the focus ring: its colour on two sides or more (a header may hide two).
 QStringList ringed(const PatchGrid& grid) {
     QWidget& window = *grid.window();
     const QImage shot = window.screen()->grabWindow(window.winId()).toImage();
@@ -154,15 +152,14 @@ class KeyboardAccessTest : public QObject {
         int clicks = 0;
         for (int i = 0; i < kPatchCount; ++i)
             connect(grid.patch(i), &QCheckBox::clicked, [&] { ++clicks; });
-        QWindow* window = w.windowHandle();
         const auto at = [&](int patch) { return inside(grid.patch(patch)); };
         const auto drag = [&](std::initializer_list<int> way) {
-            QTest::mousePress(window, Qt::LeftButton, {}, at(*way.begin()));
+            QTest::mousePress(w.windowHandle(), Qt::LeftButton, {}, at(*way.begin()));
             for (int patch : way)
-                QTest::mouseMove(window, at(patch));
-            QTest::mouseRelease(window, Qt::LeftButton, {}, at(*std::rbegin(way)));
+                QTest::mouseMove(w.windowHandle(), at(patch));
+            QTest::mouseRelease(w.windowHandle(), Qt::LeftButton, {}, at(*std::rbegin(way)));
         };
-        QTest::mouseClick(window, Qt::LeftButton, {}, at(2));
+        QTest::mouseClick(w.windowHandle(), Qt::LeftButton, {}, at(2));
         drag({0, 6, 54, 51}); // along row 0 past the world, up, back into it at row 3
         QCOMPARE(ticked(grid), (QList<int>{0, 1, 2, 3, 35, 51}));
         drag({51, 48}); // from a ticked patch: unticks, whatever it crosses
