@@ -19,15 +19,16 @@ using namespace umbrakit;
 
 namespace {
 
-// The style options of a button as it paints itself (initStyleOption is protected).
+// The style's room for a button's caption, as the button paints it (initStyleOption is protected).
 template <class Button> struct Exposed : Button { using Button::initStyleOption; };
-QStyleOptionButton optionsOf(const QAbstractButton* button) {
+QRect roomOf(const QAbstractButton* button) {
     QStyleOptionButton option;
-    if (auto* push = qobject_cast<const QPushButton*>(button))
+    if (auto* push = qobject_cast<const QPushButton*>(button)) {
         (push->*&Exposed<QPushButton>::initStyleOption)(&option);
-    else
-        (static_cast<const QCheckBox*>(button)->*&Exposed<QCheckBox>::initStyleOption)(&option);
-    return option;
+        return push->style()->subElementRect(QStyle::SE_PushButtonContents, &option, push);
+    }
+    (static_cast<const QCheckBox*>(button)->*&Exposed<QCheckBox>::initStyleOption)(&option);
+    return button->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, button);
 }
 
 QString shown(QString caption) {
@@ -71,16 +72,11 @@ QStringList cutCaptions(QWidget* window) {
                             QString::number(ink.height()), QString::number(room.width()),
                             QFontInfo(w->font()).family());
     };
-    for (QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
-        if (button->text().isEmpty())
-            continue;
-        const QStyleOptionButton option = optionsOf(button);
-        const bool push = qobject_cast<QPushButton*>(button);
-        const QRect room = button->style()->subElementRect(
-            push ? QStyle::SE_PushButtonContents : QStyle::SE_CheckBoxContents, &option, button);
-        check(button, button->text(), room, push ? Qt::AlignCenter : Qt::AlignVCenter,
-              button->rect());
-    }
+    for (QAbstractButton* button : window->findChildren<QAbstractButton*>())
+        if (!button->text().isEmpty())
+            check(button, button->text(), roomOf(button),
+                  qobject_cast<QPushButton*>(button) ? Qt::AlignCenter : Qt::AlignVCenter,
+                  button->rect());
     for (QLabel* label : window->findChildren<QLabel*>()) {
         const int wrap = label->wordWrap() ? Qt::TextWordWrap : 0;
         check(label, label->text(), label->contentsRect(), int(label->alignment()) | wrap,
@@ -113,8 +109,7 @@ QStringList cutCaptions(QWidget* window) {
     return cut;
 }
 
-// Every window with what it shows: the main window with the longest status text, the paths
-// dialog and the About box.
+// Every window as it shows the most: the longest status text, the paths dialog, the About box.
 QStringList cutCaptionsOfAllWindows() {
     TestApp app;
     app.window->show();

@@ -66,8 +66,7 @@ class ExportAndLightingTest : public QObject {
                  "D:\\Games\\BF1942\\ShadowWork\\bf1942\\levels\\MyLevel\\textures");
     }
 
-    // Each entry of Run, Options, found by its caption, ticks itself and its box alone; by the
-    // button, the menu and Ctrl+G, go.bat then runs that pass alone and is started.
+    // An entry of Run, Options ticks itself and its box alone; each route then runs that pass.
     void eachPassEntryAndEveryRouteWriteTheScriptAndStartIt() {
         const char* const passes[][3] = {
             {"Generate &TerrainShadows", "Generate &TerrainShadows", "+traceTerrainShadows"},
@@ -105,45 +104,43 @@ class ExportAndLightingTest : public QObject {
         }
     }
 
-    // Refusals leave the old script; a failed start names go.bat, and the line goes back to rest.
+    // Refusals keep the old script, a failed start names go.bat, Yes runs anyway; blanks are text.
     void refusalsAndFailedStarts() {
+        using enum LaunchResult::Outcome;
         const QString incomplete = "Error: Incomplete Config. Set Paths or Load Config.";
+        const QByteArray written = "@cd D:\\Games\\BF1942\r\n@D:\r\n";
         const struct {
-            std::u32string game, mod;
+            std::u32string game, level, mod;
             LaunchResult::Outcome start;
             QString status, told;
+            QByteArray script;
         } cases[] = {
-            {U"", U"BF1942", LaunchResult::Started, incomplete, ""},
-            {kGame, U"😀é", LaunchResult::Started, "Ready.",
-             "The Mod Name \"😀é\" holds the character \"😀\", which go.bat cannot hold."},
-            {U"D:\\Jeux\\Déjà vu", U"A&B", LaunchResult::Started, "Ready.", // answered No
-             "- The Game Path holds \"é\": the batch processor reads it in the console's"},
-            {kGame, U"BF1942", LaunchResult::NoBatchProcessor, "Ready.", "Install Wine"},
-            {kGame, U"BF1942", LaunchResult::Failed, "Ready.", "Permission denied"},
+            {U"", U"MyLevel", U"BF1942", Started, incomplete, "", kOld},
+            {kGame, U"MyLevel", U"😀é", Started, "Ready.",
+             "The Mod Name \"😀é\" holds the character \"😀\", which go.bat cannot hold.", kOld},
+            {U"D:\\Jeux\\Déjà vu", U"MyLevel", U"A&B", Started, "Ready.", // answered No
+             "- The Game Path holds \"é\": the batch processor reads it in the console's", kOld},
+            {kGame, U"MyLevel", U"BF1942", NoBatchProcessor, "Ready.", "Install Wine", written},
+            {kGame, U"MyLevel", U"BF1942", Failed, "Ready.", "Permission denied", written},
+            {U" ", U"Déjà", U" ", Started, kRunning, "Level Name holds \"é\"", "@cd  \r\n@ \r\n"},
         };
         for (const auto& c : cases) {
             TestApp app;
             app.write("go.bat", kOld);
-            app.setPaths(c.game, U"MyLevel", c.mod);
+            app.setPaths(c.game, c.level, c.mod);
             app.launcher.answer = {c.start, "Permission denied"};
+            app.dialogs.boxAnswers << (c.status == kRunning ? MsgBoxAnswer::Yes : MsgBoxAnswer::No);
             app.window->goEntry->trigger();
             QCOMPARE(app.status(), c.status);
             QVERIFY(app.window->statusTimer->Enabled());
-            QCOMPARE(told(app), c.status == incomplete);
+            QCOMPARE(told(app), c.status != "Ready.");
             const QString told = app.dialogs.boxes.value(0).prompt;
             QVERIFY2(told.contains(c.told) && (c.told.isEmpty() == told.isEmpty()),
                      qPrintable(told));
-            const bool written = c.start != LaunchResult::Started;
-            QCOMPARE(app.bytesOf("go.bat") == kOld, !written);
-            QVERIFY(!written || told.contains(QDir::toNativeSeparators(app.path("go.bat"))));
+            QCOMPARE(app.bytesOf("go.bat"), c.script);
+            QVERIFY(c.start == Started ||
+                    told.contains(QDir::toNativeSeparators(app.path("go.bat"))));
         }
-        TestApp app; // blanks are text; Yes to the question writes the code page's bytes
-        app.setPaths(U" ", U"Déjà", U" ");
-        app.dialogs.boxAnswers << MsgBoxAnswer::Yes;
-        app.window->goEntry->trigger();
-        QVERIFY(app.bytesOf("go.bat").startsWith("@cd  \r\n@ \r\n"));
-        QVERIFY(app.dialogs.boxes[0].prompt.contains("Level Name holds \"é\""));
-        QCOMPARE(app.status(), kRunning);
     }
 };
 

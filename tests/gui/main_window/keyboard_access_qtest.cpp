@@ -63,8 +63,8 @@ class KeyboardAccessTest : public QObject {
         QTRY_VERIFY_WITH_TIMEOUT(QAccessible::isActive(), 10000);
     }
 
-    // Alt+A at every press; About by Alt or F10, the arrows and Return; the status line spoken
-    // and heard at each change; each frame a group named by its caption around its controls.
+    // Access keys; About from the menu bar by Alt or F10; each status heard; frames as named
+    // groups.
     void accessKeysTheMenuBarTheStatusLineAndTheFrames() {
         TestApp app;
         MainWindow& w = *app.window;
@@ -106,9 +106,8 @@ class KeyboardAccessTest : public QObject {
         }
     }
 
-    // In 8x8, Up is a higher row and the edges hold; each move and tick is heard; after a click
-    // the keys go on from there; the ring is around the focused patch alone. Then in 4x4 a drag
-    // gives the first patch's new state to every enabled patch passed over.
+    // In 8x8: Up is a higher row, the edges hold, moves and ticks are heard, the keys go on from a
+    // click, one ring. In 4x4 a drag gives the first patch's new state to every patch it crosses.
     void theGridByKeysMouseAndDrag() {
         TestApp app;
         MainWindow& w = *app.window;

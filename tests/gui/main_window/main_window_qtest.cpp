@@ -16,8 +16,7 @@ using namespace umbrakit;
 class MainWindowTest : public QObject {
     Q_OBJECT
   private slots:
-    // Patch (c, r) stands under the headers reading c and r, "00" at the left and the bottom;
-    // a click there ticks it. Every box shows its patch as the selection holds it.
+    // Patch (c, r): under headers c and r ("00" bottom left), ticked by a click, shown as held.
     void eachPatchWhereItsHeadersSayAsTheSelectionHoldsIt() {
         TestApp app;
         MainWindow& w = *app.window;
@@ -69,8 +68,7 @@ class MainWindowTest : public QObject {
         shown(144, 0);
     }
 
-    // Twice on every pass by each route: a click, Space, the menu entry, the other Value, the
-    // same Value. One Click per real change; box, tick and configuration agree.
+    // Each route twice on each pass: one Click per real change; box, tick and configuration agree.
     void everyRouteKeepsThePassInStep() {
         TestApp app;
         MainWindow& w = *app.window;

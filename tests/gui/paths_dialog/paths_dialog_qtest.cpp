@@ -1,5 +1,4 @@
-// The paths dialog through its controls; what a row, a Save or a Delete does to the values is
-// the core's.
+// The paths dialog through its controls; what its commands do to the values is the core's.
 #include <QSignalSpy>
 #include <QtTest>
 
