@@ -6,7 +6,6 @@
 
 #include "core/batch_script.h"
 #include "gui/main_window/patch_grid.h"
-#include "platform/click_check_box.h"
 #include "platform/combo_list.h"
 #include "platform/form_timer.h"
 #include "platform/menu_entry.h"
