@@ -109,8 +109,11 @@ QStringList cutCaptions(QWidget* window) {
     return cut;
 }
 
-// Every window as it shows the most: the longest status text, the paths dialog, the About box.
-QStringList cutCaptionsOfAllWindows() {
+// Every window as it shows the most (the longest status text, the paths dialog, the About box),
+// under the family that the windows' default font resolves to (when the test names one).
+void everyCaptionWholeIn(const QString& family) {
+    if (!qEnvironmentVariableIsEmpty("CAPTION_FIT_FAMILY"))
+        QCOMPARE(QFontInfo(defaultControlFont()).family(), family);
     TestApp app;
     app.window->show();
     app.window->setPathsEntry->trigger();
@@ -122,14 +125,6 @@ QStringList cutCaptionsOfAllWindows() {
     cut << cutCaptions(app.window->pathsDialog()->window())
         << cutCaptions(app.window->aboutBox()->window());
     app.window->aboutBox()->unload();
-    return cut;
-}
-
-// Under the family that the windows' default font resolves to (when the test names one).
-void everyCaptionWholeIn(const QString& family) {
-    if (!qEnvironmentVariableIsEmpty("CAPTION_FIT_FAMILY"))
-        QCOMPARE(QFontInfo(defaultControlFont()).family(), family);
-    const QStringList cut = cutCaptionsOfAllWindows();
     QVERIFY2(cut.isEmpty(), qPrintable(cut.join("\n")));
 }
 

@@ -31,16 +31,13 @@ class MainWindowTest : public QObject {
                      enabled);
         };
         shown(16, 0);
-        chooseRow(w.worldSizeList, 3); // "32x32"
-        QRect boxes;
-        for (QCheckBox* box : grid.findChildren<QCheckBox*>())
-            boxes |= QRect(box->mapTo(&w, QPoint()), box->size());
+        chooseRow(w.worldSizeList, 3);    // "32x32"
         QMap<int, QString> above, beside; // the headers' texts, rightward and upward
         for (QLabel* label : grid.findChildren<QLabel*>()) {
             const QPoint middle = label->mapTo(&w, label->rect().center());
-            if (middle.y() < boxes.top())
+            if (middle.y() < grid.patch(kPatchCount - 1)->mapTo(&w, QPoint()).y()) // the top row
                 above.insert(middle.x(), label->text());
-            else if (middle.x() < boxes.left())
+            else if (middle.x() < grid.patch(0)->mapTo(&w, QPoint()).x())
                 beside.insert(-middle.y(), label->text());
         }
         const QString headers = "00 01 02 03 04 05 06 07 08 09 10 11 12 13 14 15";

@@ -11,12 +11,16 @@ using namespace umbrakit;
 class PathsDialogTest : public QObject {
     Q_OBJECT
   private slots:
-    // Esc is no way out, Enter is OK; access keys; Cancel hides, the close box unloads.
-    void keysCancelAndTheCloseBox() {
+    // Esc is no way out, Enter is OK; access keys; Cancel hides and keeps every entry for the next
+    // opening; OK applies them; the close box unloads and applies nothing.
+    void keysCancelOkAndTheCloseBox() {
         TestApp app;
+        app.write("config.ini", record("Wake", "D:\\BF", "Wake", "BF1942", "110", "2"));
+        app.window->passEntries[int(Pass::Terrain)]->trigger();
         PathsDialogWindow& w = openPaths(app);
         QVERIFY(QTest::qWaitForWindowActive(&w));
         QCOMPARE(QApplication::focusWidget(), w.savedList);
+        QVERIFY(app.status() == "Ready." && !app.window->statusTimer->Enabled());
         QSignalSpy okPressed(w.okButton, &QPushButton::clicked);
         QTest::keyClick(w.levelBox, Qt::Key_Escape); // no way out
         QVERIFY(w.isVisible() && app.window->pathsDialog()->isLoaded());
@@ -30,28 +34,15 @@ class PathsDialogTest : public QObject {
         QTest::keyClick(&w, Qt::Key_T, Qt::AltModifier);
         QTest::keyClick(&w, Qt::Key_C, Qt::AltModifier);
         QTRY_VERIFY(!w.isVisible());
-        QVERIFY(texts(w).endsWith("|000") && app.window->pathsDialog()->isLoaded());
-        type(openPaths(app).gamePathBox, "C:\\Game");
-        QVERIFY(w.close());
-        QVERIFY(!app.window->pathsDialog()->isLoaded());
-        QCOMPARE(texts(openPaths(app)), "(Current)||||1.5|000");
-        QVERIFY(app.window->configuration().gamePath.empty());
-    }
+        QVERIFY(app.window->pathsDialog()->isLoaded());
+        QCOMPARE(texts(openPaths(app)), "(Current)||||1.5|100");
 
-    void cancelKeepsEverythingForTheNextOpeningAndOkAppliesIt() {
-        TestApp app;
-        app.write("config.ini", record("Wake", "D:\\BF", "Wake", "BF1942", "110", "2"));
-        app.window->passEntries[int(Pass::Terrain)]->trigger();
-        PathsDialogWindow& w = openPaths(app);
-        QVERIFY(app.status() == "Ready." && !app.window->statusTimer->Enabled());
-        QCOMPARE(texts(w), "(Current)||||1.5|100");
         chooseRow(w.savedList, 1); // terrain and merge
         type(w.levelBox, "Level =1");
         type(w.modBox->lineEdit(), "Not A Listed Mod");
         type(w.darknessBox, " 0.75 ");
         click(w.cancelButton);
         QVERIFY(!w.isVisible() && app.window->configuration().levelName.empty());
-
         const int operations = app.files.operations;
         QCOMPARE(&openPaths(app), &w); // no new load
         QCOMPARE(app.files.operations, operations);
@@ -62,12 +53,18 @@ class PathsDialogTest : public QObject {
         QSignalSpy merge(app.window->passBoxes[1], &ClickCheckBox::Click);
         click(w.okButton);
         QCOMPARE(terrain.count() * 10 + merge.count(), 1);
-        QCOMPARE(app.window->configuration(),
-                 (Configuration{
-                     U"D:\\BF", U"Level =1", U"Not A Listed Mod", 0.75, {true, true, false}}));
+        const Configuration applied{
+            U"D:\\BF", U"Level =1", U"Not A Listed Mod", 0.75, {true, true, false}};
+        QCOMPARE(app.window->configuration(), applied);
         QVERIFY(app.window->passEntries[int(Pass::Merge)]->Checked());
         QVERIFY(!app.window->pathsDialog()->isLoaded());
-        QVERIFY(app.dialogs.boxes.isEmpty());
+        QCOMPARE(app.dialogs.boxes.size(), 3);
+
+        type(openPaths(app).gamePathBox, "C:\\Game");
+        QVERIFY(app.window->pathsDialog()->window()->close());
+        QVERIFY(!app.window->pathsDialog()->isLoaded());
+        QCOMPARE(texts(openPaths(app)), "(Current)|D:\\BF|Level =1|Not A Listed Mod|0.75|110");
+        QCOMPARE(app.window->configuration(), applied);
     }
 
     // The list and the boxes follow config.ini; what Save and Delete write is the core's.
