@@ -12,7 +12,7 @@ class PathsDialogTest : public QObject {
     Q_OBJECT
   private slots:
     // Esc is no way out, Enter is OK; access keys; Cancel hides and keeps every entry for the next
-    // opening; OK applies them; the close box unloads and applies nothing.
+    // opening; OK applies them, a Click for each box it changes; the close box applies nothing.
     void keysCancelOkAndTheCloseBox() {
         TestApp app;
         app.write("config.ini", record("Wake", "D:\\BF", "Wake", "BF1942", "110", "2"));
@@ -48,7 +48,6 @@ class PathsDialogTest : public QObject {
         QCOMPARE(app.files.operations, operations);
         QCOMPARE(texts(w), "Wake|D:\\BF|Level =1|Not A Listed Mod| 0.75 |110");
 
-        // OK sets the pass boxes: one Click for each real change only.
         QSignalSpy terrain(app.window->passBoxes[0], &ClickCheckBox::Click);
         QSignalSpy merge(app.window->passBoxes[1], &ClickCheckBox::Click);
         click(w.okButton);
