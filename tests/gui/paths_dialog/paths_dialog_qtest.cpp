@@ -69,10 +69,16 @@ class PathsDialogTest : public QObject {
     // The list and the boxes follow config.ini; what Save and Delete write is the core's.
     void savedSettingsInTheListAndTheBoxes() {
         TestApp app;
-        app.write("config.ini", kWake + kMidway + kBerlin);
+        const QByteArray big = record("Big", QByteArray(100000, 'x'), "l", "m", "000", "1");
+        const QByteArray saved = kWake + kMidway + kBerlin + big;
+        app.write("config.ini", saved);
         app.window->passEntries[int(Pass::Merge)]->trigger();
         PathsDialogWindow& w = openPaths(app);
-        QCOMPARE(rowsOf(w.savedList), QStringList({"(Current)", "Wake", "Midway", "Berlin"}));
+        QCOMPARE(rowsOf(w.savedList).join(','), "(Current),Wake,Midway,Berlin,Big");
+        chooseRow(w.savedList, 4); // whole, past the 32,767 characters of Qt's text boxes
+        QCOMPARE(w.gamePathBox->text().size(), 100000);
+        click(w.saveButton);
+        QCOMPARE(app.bytesOf("config.ini"), saved);
         chooseRow(w.savedList, 2);
         QCOMPARE(texts(w), "Midway|E:\\BF|Midway|DesertCombat|2|011");
         type(w.darknessBox, "2.50");
@@ -80,29 +86,17 @@ class PathsDialogTest : public QObject {
         click(w.saveButton); // a second record, shown as written
         QCOMPARE(rowsOf(w.savedList).last() + texts(w),
                  "cafécafé|E:\\BF|Midway|DesertCombat|2.5|011");
-        QVERIFY(app.bytesOf("config.ini").startsWith(kWake + kMidway + kBerlin + "[Save=caf\xE9]"));
+        QVERIFY(app.bytesOf("config.ini").startsWith(saved + "[Save=caf\xE9]"));
 
         chooseRow(w.savedList, 1);
         click(w.deleteButton); // row 0 shows the main window again, the name stays for a Save
-        QCOMPARE(rowsOf(w.savedList), QStringList({"(Current)", "Midway", "Berlin", "café"}));
+        QCOMPARE(rowsOf(w.savedList).join(','), "(Current),Midway,Berlin,Big,café");
         QCOMPARE(texts(w), "Wake||||1.5|010");
         click(w.deleteButton); // with row 0 nothing goes, and the boxes stay
         QCOMPARE(app.dialogs.boxes.size(), 1);
         QCOMPARE(texts(w), "Wake||||1.5|010");
         app.window->pathsDialog()->unload();
-        QCOMPARE(rowsOf(openPaths(app).savedList).size(), 4);
-    }
-
-    // Qt's text boxes hold 32,767 characters unless told otherwise.
-    void aLongValueIsShownAndSavedWhole() {
-        TestApp app;
-        const QByteArray big(100000, 'x');
-        app.write("config.ini", record("Big", big, "l", "m", "000", "1"));
-        PathsDialogWindow& w = openPaths(app);
-        chooseRow(w.savedList, 1);
-        QCOMPARE(w.gamePathBox->text().size(), big.size());
-        click(w.saveButton);
-        QCOMPARE(app.bytesOf("config.ini"), record("Big", big, "l", "m", "000", "1"));
+        QCOMPARE(rowsOf(openPaths(app).savedList).size(), 5);
     }
 
     // Only the length counts: the last 11 characters go, whatever they are.
