@@ -1,8 +1,8 @@
 // Feeds any bytes to the program as config.ini, the way a hand-edited, cut-off or damaged file
 // reaches it (lines without "=", CR without LF, NUL bytes, names repeated, more than 30
 // records), and checks what must hold whatever the file holds: what is listed, what a row
-// loads, what a Save and a Delete keep, and that a record the program writes loads back as
-// written. The file is split once here; each further pass is one of the core's own.
+// loads, what a rewrite, a Save and a Delete keep. The file is split once here; each further
+// pass is one of the core's own.
 #include "core/config_rewrite.h"
 #include "core/config_walk.h"
 #include "core/number_text.h"
