@@ -63,8 +63,7 @@ class KeyboardAccessTest : public QObject {
         QTRY_VERIFY_WITH_TIMEOUT(QAccessible::isActive(), 10000);
     }
 
-    // Access keys; About from the menu bar by Alt or F10; each status heard; frames as named
-    // groups.
+    // Access keys; About from the menu bar by Alt or F10; statuses heard; frames as named groups.
     void accessKeysTheMenuBarTheStatusLineAndTheFrames() {
         TestApp app;
         MainWindow& w = *app.window;
@@ -106,8 +105,8 @@ class KeyboardAccessTest : public QObject {
         }
     }
 
-    // In 8x8: Up is a higher row, the edges hold, moves and ticks are heard, the keys go on from a
-    // click, one ring. In 4x4 a drag gives the first patch's new state to every patch it crosses.
+    // In 8x8: Up is a higher row, the edges hold, moves and ticks are heard, keys go on from a
+    // click, one ring. In 4x4 a drag gives the first patch's new state to each enabled one crossed.
     void theGridByKeysMouseAndDrag() {
         TestApp app;
         MainWindow& w = *app.window;
