@@ -1,6 +1,5 @@
-// Every caption of every window shown whole, measured as Qt draws it in the style's room for the
-// text, under one font family at a time (cmake/fonts.cmake): first the system's alone, then the
-// program's own font installed as the program installs it.
+// Every caption of every window shown whole as Qt draws it in the style's room for the text, under
+// one font family at a time (cmake/fonts.cmake): the system's alone, then the program's own.
 #include <QCheckBox>
 #include <QLabel>
 #include <QMenuBar>
@@ -20,20 +19,20 @@ using namespace umbrakit;
 
 namespace {
 
-// The style options of a button as it paints itself (initStyleOption is protected).
+// The style's room for a button's caption, as the button paints it (initStyleOption is protected).
 template <class Button> struct Exposed : Button { using Button::initStyleOption; };
-QStyleOptionButton optionsOf(const QAbstractButton* button) {
+QRect roomOf(const QAbstractButton* button) {
     QStyleOptionButton option;
-    if (auto* push = qobject_cast<const QPushButton*>(button))
+    if (auto* push = qobject_cast<const QPushButton*>(button)) {
         (push->*&Exposed<QPushButton>::initStyleOption)(&option);
-    else
-        (static_cast<const QCheckBox*>(button)->*&Exposed<QCheckBox>::initStyleOption)(&option);
-    return option;
+        return push->style()->subElementRect(QStyle::SE_PushButtonContents, &option, push);
+    }
+    (static_cast<const QCheckBox*>(button)->*&Exposed<QCheckBox>::initStyleOption)(&option);
+    return button->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, button);
 }
 
 QString shown(QString caption) {
-    caption.replace("&&", "\x01").remove('&').replace("\x01", "&");
-    return caption;
+    return caption.replace("&&", "\x01").remove('&').replace("\x01", "&");
 }
 
 // Where the text's ink falls when drawn with these flags in this room.
@@ -73,19 +72,12 @@ QStringList cutCaptions(QWidget* window) {
                             QString::number(ink.height()), QString::number(room.width()),
                             QFontInfo(w->font()).family());
     };
-    for (QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
-        if (button->text().isEmpty())
-            continue;
-        const QStyleOptionButton option = optionsOf(button);
-        const bool push = qobject_cast<QPushButton*>(button);
-        const QRect room = button->style()->subElementRect(
-            push ? QStyle::SE_PushButtonContents : QStyle::SE_CheckBoxContents, &option, button);
-        check(button, button->text(), room, push ? Qt::AlignCenter : Qt::AlignVCenter,
-              button->rect());
-    }
+    for (QAbstractButton* button : window->findChildren<QAbstractButton*>())
+        if (!button->text().isEmpty())
+            check(button, button->text(), roomOf(button),
+                  qobject_cast<QPushButton*>(button) ? Qt::AlignCenter : Qt::AlignVCenter,
+                  button->rect());
     for (QLabel* label : window->findChildren<QLabel*>()) {
-        if (label->text().isEmpty())
-            continue;
         const int wrap = label->wordWrap() ? Qt::TextWordWrap : 0;
         check(label, label->text(), label->contentsRect(), int(label->alignment()) | wrap,
               label->contentsRect());
@@ -117,9 +109,11 @@ QStringList cutCaptions(QWidget* window) {
     return cut;
 }
 
-// Every window with what it shows: the main window with the longest status text, the paths
-// dialog and the About box.
-QStringList cutCaptionsOfAllWindows() {
+// Every window as it shows the most (the longest status text, the paths dialog, the About box),
+// under the family that the windows' default font resolves to (when the test names one).
+void everyCaptionWholeIn(const QString& family) {
+    if (!qEnvironmentVariableIsEmpty("CAPTION_FIT_FAMILY"))
+        QCOMPARE(QFontInfo(defaultControlFont()).family(), family);
     TestApp app;
     app.window->show();
     app.window->setPathsEntry->trigger();
@@ -131,14 +125,6 @@ QStringList cutCaptionsOfAllWindows() {
     cut << cutCaptions(app.window->pathsDialog()->window())
         << cutCaptions(app.window->aboutBox()->window());
     app.window->aboutBox()->unload();
-    return cut;
-}
-
-// Under the family that the windows' default font resolves to (when the test names one).
-void everyCaptionWholeIn(const QString& family) {
-    if (!qEnvironmentVariableIsEmpty("CAPTION_FIT_FAMILY"))
-        QCOMPARE(QFontInfo(defaultControlFont()).family(), family);
-    const QStringList cut = cutCaptionsOfAllWindows();
     QVERIFY2(cut.isEmpty(), qPrintable(cut.join("\n")));
 }
 

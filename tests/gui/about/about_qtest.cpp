@@ -12,8 +12,7 @@ using namespace umbrakit;
 class AboutTest : public QObject {
     Q_OBJECT
   private slots:
-    // One object, its window loaded and unloaded: by OK, Enter, Esc or the border. The retired
-    // commands answer with their box and touch nothing.
+    // About unloads by OK, Enter, Esc or the border; the retired commands tell and touch nothing.
     void aboutAndTheRetiredCommands() {
         TestApp app;
         for (int closing = 0; closing < 4; ++closing) {

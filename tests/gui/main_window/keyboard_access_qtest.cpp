@@ -1,5 +1,4 @@
-// The program by keyboard and as a screen reader meets it: keys and the mouse go to the shown
-// window, which routes them as a user's. Runs under Xvfb with the accessibility bus on.
+// The shown program by keyboard, mouse and screen reader (Xvfb, the accessibility bus on).
 #include <QAccessible>
 #include <QLabel>
 #include <QtTest>
@@ -33,9 +32,8 @@ QList<int> ticked(const PatchGrid& grid) {
             patches << i;
     return patches;
 }
-// The patches the screen shows with the focus ring: its colour in the margin on at least two
-// sides of the box (at the grid's edges a header or the edge may hide two).
-QStringList ringed(const PatchGrid& grid) {
+// The patches shown with the focus ring: its colour on two sides or more (a header may hide two).
+QString ringed(const PatchGrid& grid) {
     QWidget& window = *grid.window();
     const QImage shot = window.screen()->grabWindow(window.winId()).toImage();
     const auto ring = [&](int x, int y) {
@@ -50,7 +48,7 @@ QStringList ringed(const PatchGrid& grid) {
         if (sides >= 2)
             patches << box->objectName();
     }
-    return patches;
+    return patches.join(' ');
 }
 } // namespace
 
@@ -65,8 +63,7 @@ class KeyboardAccessTest : public QObject {
         QTRY_VERIFY_WITH_TIMEOUT(QAccessible::isActive(), 10000);
     }
 
-    // Alt+A at every press; About by Alt or F10, the arrows and Return; the status line spoken
-    // and heard at each change; each frame a group named by its caption around its controls.
+    // Access keys; About from the menu bar by Alt or F10; statuses heard; frames as named groups.
     void accessKeysTheMenuBarTheStatusLineAndTheFrames() {
         TestApp app;
         MainWindow& w = *app.window;
@@ -108,9 +105,8 @@ class KeyboardAccessTest : public QObject {
         }
     }
 
-    // In 8x8, Up is a higher row and the edges hold; each move and tick is heard; after a click
-    // the keys go on from there; the ring is around the focused patch alone. Then in 4x4 a drag
-    // gives the first patch's new state to every enabled patch passed over.
+    // In 8x8: Up is a higher row, the edges hold, moves and ticks are heard, keys go on from a
+    // click, one ring. In 4x4 a drag gives the first patch's new state to each enabled one crossed.
     void theGridByKeysMouseAndDrag() {
         TestApp app;
         MainWindow& w = *app.window;
@@ -140,8 +136,7 @@ class KeyboardAccessTest : public QObject {
             QVERIFY(QString(key) != "Space" ||
                     (spoken(target)->state().checked &&
                      heard.contains({target, QAccessible::StateChanged})));
-            QTRY_COMPARE(ringed(grid), grid.isAncestorOf(target) ? QStringList{target->objectName()}
-                                                                 : QStringList());
+            QTRY_COMPARE(ringed(grid), grid.isAncestorOf(target) ? target->objectName() : "");
         }
         QCOMPARE(ticked(grid), (QList<int>{35, 52, 97, 113}));
         QCOMPARE(spoken(grid.patch(113))->text(QAccessible::Name),
@@ -154,15 +149,14 @@ class KeyboardAccessTest : public QObject {
         int clicks = 0;
         for (int i = 0; i < kPatchCount; ++i)
             connect(grid.patch(i), &QCheckBox::clicked, [&] { ++clicks; });
-        QWindow* window = w.windowHandle();
         const auto at = [&](int patch) { return inside(grid.patch(patch)); };
         const auto drag = [&](std::initializer_list<int> way) {
-            QTest::mousePress(window, Qt::LeftButton, {}, at(*way.begin()));
+            QTest::mousePress(w.windowHandle(), Qt::LeftButton, {}, at(*way.begin()));
             for (int patch : way)
-                QTest::mouseMove(window, at(patch));
-            QTest::mouseRelease(window, Qt::LeftButton, {}, at(*std::rbegin(way)));
+                QTest::mouseMove(w.windowHandle(), at(patch));
+            QTest::mouseRelease(w.windowHandle(), Qt::LeftButton, {}, at(*std::rbegin(way)));
         };
-        QTest::mouseClick(window, Qt::LeftButton, {}, at(2));
+        QTest::mouseClick(w.windowHandle(), Qt::LeftButton, {}, at(2));
         drag({0, 6, 54, 51}); // along row 0 past the world, up, back into it at row 3
         QCOMPARE(ticked(grid), (QList<int>{0, 1, 2, 3, 35, 51}));
         drag({51, 48}); // from a ticked patch: unticks, whatever it crosses

@@ -1,5 +1,4 @@
-// The main window as the user meets it: the patch grid as it shows the selection, the three
-// passes kept in step whichever way they change, the status line's timer, and the end.
+// The main window: the grid as it shows the selection, the passes in step, the timer, the end.
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -17,48 +16,34 @@ using namespace umbrakit;
 class MainWindowTest : public QObject {
     Q_OBJECT
   private slots:
-    // Patch (c, r) stands under the headers reading c and r, "00" at the left and the bottom;
-    // a click there ticks it. Every box shows its patch as the selection holds it.
+    // Patch (c, r): under headers c and r ("00" bottom left), ticked by a click, shown as held.
     void eachPatchWhereItsHeadersSayAsTheSelectionHoldsIt() {
         TestApp app;
         MainWindow& w = *app.window;
         const PatchGrid& grid = *w.patchGrid;
-        const auto shown = [&](int enabled, int ticked) {
-            const PatchSelection& selection = grid.selection();
+        const auto shown = [&](qsizetype enabled, qsizetype ticked) {
             for (int i = 0; i < kPatchCount; ++i)
-                QVERIFY2(grid.patch(i)->isEnabled() == selection.isEnabled(i) &&
-                             grid.patch(i)->isChecked() == selection.isTicked(i),
+                QVERIFY2(grid.patch(i)->isEnabled() == grid.selection().isEnabled(i) &&
+                             grid.patch(i)->isChecked() == grid.selection().isTicked(i),
                          qPrintable(QString::number(i)));
-            QCOMPARE(int(std::ranges::count(selection.values(), 1)), ticked);
-            QCOMPARE(
-                int(std::ranges::count_if(grid.findChildren<QCheckBox*>(), &QWidget::isEnabled)),
-                enabled);
+            QCOMPARE(std::ranges::count(grid.selection().values(), 1), ticked);
+            QCOMPARE(std::ranges::count_if(grid.findChildren<QCheckBox*>(), &QWidget::isEnabled),
+                     enabled);
         };
         shown(16, 0);
-        chooseRow(w.worldSizeList, 3); // "32x32"
-        QRect boxes;
-        for (QCheckBox* box : grid.findChildren<QCheckBox*>())
-            boxes |= QRect(box->mapTo(&w, QPoint()), box->size());
-        QMap<QString, QPoint> above, beside; // the headers' middles, by their text
-        for (QLabel* label : w.findChildren<QLabel*>()) {
+        chooseRow(w.worldSizeList, 3);    // "32x32"
+        QMap<int, QString> above, beside; // the headers' texts, rightward and upward
+        for (QLabel* label : grid.findChildren<QLabel*>()) {
             const QPoint middle = label->mapTo(&w, label->rect().center());
-            bool number = false;
-            label->text().toInt(&number);
-            if (number && middle.y() < boxes.top() && middle.x() > boxes.left())
-                above.insert(label->text(), middle);
-            else if (number && middle.x() < boxes.left() && middle.y() > boxes.top())
-                beside.insert(label->text(), middle);
+            if (middle.y() < grid.patch(kPatchCount - 1)->mapTo(&w, QPoint()).y()) // the top row
+                above.insert(middle.x(), label->text());
+            else if (middle.x() < grid.patch(0)->mapTo(&w, QPoint()).x())
+                beside.insert(-middle.y(), label->text());
         }
-        QCOMPARE(above.size(), kGridSide);
-        QCOMPARE(beside.size(), kGridSide);
-        const auto header = [](int n) { return QString::number(n).rightJustified(2, '0'); };
-        for (int n = 1; n < kGridSide; ++n) { // rightward and upward
-            QVERIFY(above.value(header(n)).x() > above.value(header(n - 1)).x());
-            QVERIFY(beside.value(header(n)).y() < beside.value(header(n - 1)).y());
-        }
-        const auto at = [&](int column, int row) {
-            return QPoint(above.value(header(column)).x(), beside.value(header(row)).y());
-        };
+        const QString headers = "00 01 02 03 04 05 06 07 08 09 10 11 12 13 14 15";
+        QCOMPARE(above.values().join(' '), headers);
+        QCOMPARE(beside.values().join(' '), headers);
+        const auto at = [&](int c, int r) { return QPoint(above.keys()[c], -beside.keys()[r]); };
         for (int row = 0; row < kGridSide; ++row)
             for (int column = 0; column < kGridSide; ++column)
                 QVERIFY2(w.childAt(at(column, row)) == grid.patch(row * 16 + column),
@@ -75,8 +60,7 @@ class MainWindowTest : public QObject {
         shown(144, 0);
     }
 
-    // Twice on every pass by each route: a click, Space, the menu entry, the other Value, the
-    // same Value. One Click per real change; box, tick and configuration agree.
+    // Each route twice on each pass: one Click per real change; box, tick and configuration agree.
     void everyRouteKeepsThePassInStep() {
         TestApp app;
         MainWindow& w = *app.window;
@@ -120,9 +104,7 @@ class MainWindowTest : public QObject {
         QCOMPARE(app.status(), QString("Saved!"));
         QVERIFY2(timer.remainingMs() > 0 && timer.remainingMs() <= 1750,
                  qPrintable(QString::number(timer.remainingMs())));
-        QTimer* countdown = timer.findChild<QTimer*>("countdown"); // ends at once
-        countdown->start();
-        QMetaObject::invokeMethod(countdown, "timeout");
+        QMetaObject::invokeMethod(timer.findChild<QTimer*>("countdown"), "timeout"); // ends now
         QCOMPARE(app.status(), QString("Ready."));
         QVERIFY(!timer.Enabled());
         app.window->exitEntry->trigger(); // Exit and the close box end the program

@@ -1,5 +1,4 @@
-// The program with its real windows and dialogs on the folder given, and a launcher that
-// starts nothing.
+// The program with its real windows and dialogs on the given folder; its launcher starts nothing.
 #include <QApplication>
 
 #include "gui/main_window/main_window.h"

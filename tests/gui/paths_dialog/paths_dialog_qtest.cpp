@@ -1,5 +1,4 @@
-// The paths dialog through its controls; what a row, a Save or a Delete does to the values is
-// the core's.
+// The paths dialog through its controls; what its commands do to the values is the core's.
 #include <QSignalSpy>
 #include <QtTest>
 
@@ -12,12 +11,16 @@ using namespace umbrakit;
 class PathsDialogTest : public QObject {
     Q_OBJECT
   private slots:
-    // Esc is no way out, Enter is OK; access keys; Cancel hides, the close box unloads.
-    void keysCancelAndTheCloseBox() {
+    // Esc is no way out, Enter is OK; access keys; Cancel hides and keeps every entry for the next
+    // opening; OK applies them, a Click for each box it changes; the close box applies nothing.
+    void keysCancelOkAndTheCloseBox() {
         TestApp app;
+        app.write("config.ini", record("Wake", "D:\\BF", "Wake", "BF1942", "110", "2"));
+        app.window->passEntries[int(Pass::Terrain)]->trigger();
         PathsDialogWindow& w = openPaths(app);
         QVERIFY(QTest::qWaitForWindowActive(&w));
         QCOMPARE(QApplication::focusWidget(), w.savedList);
+        QVERIFY(app.status() == "Ready." && !app.window->statusTimer->Enabled());
         QSignalSpy okPressed(w.okButton, &QPushButton::clicked);
         QTest::keyClick(w.levelBox, Qt::Key_Escape); // no way out
         QVERIFY(w.isVisible() && app.window->pathsDialog()->isLoaded());
@@ -31,53 +34,51 @@ class PathsDialogTest : public QObject {
         QTest::keyClick(&w, Qt::Key_T, Qt::AltModifier);
         QTest::keyClick(&w, Qt::Key_C, Qt::AltModifier);
         QTRY_VERIFY(!w.isVisible());
-        QVERIFY(texts(w).endsWith("|000") && app.window->pathsDialog()->isLoaded());
-        type(openPaths(app).gamePathBox, "C:\\Game");
-        QVERIFY(w.close());
-        QVERIFY(!app.window->pathsDialog()->isLoaded());
-        QCOMPARE(texts(openPaths(app)), "(Current)||||1.5|000");
-        QVERIFY(app.window->configuration().gamePath.empty());
-    }
+        QVERIFY(app.window->pathsDialog()->isLoaded());
+        QCOMPARE(texts(openPaths(app)), "(Current)||||1.5|100");
 
-    void cancelKeepsEverythingForTheNextOpeningAndOkAppliesIt() {
-        TestApp app;
-        app.write("config.ini", record("Wake", "D:\\BF", "Wake", "BF1942", "110", "2"));
-        app.window->passEntries[int(Pass::Terrain)]->trigger();
-        PathsDialogWindow& w = openPaths(app);
-        QVERIFY(app.status() == "Ready." && !app.window->statusTimer->Enabled());
-        QCOMPARE(texts(w), "(Current)||||1.5|100");
         chooseRow(w.savedList, 1); // terrain and merge
         type(w.levelBox, "Level =1");
         type(w.modBox->lineEdit(), "Not A Listed Mod");
         type(w.darknessBox, " 0.75 ");
         click(w.cancelButton);
         QVERIFY(!w.isVisible() && app.window->configuration().levelName.empty());
-
         const int operations = app.files.operations;
         QCOMPARE(&openPaths(app), &w); // no new load
         QCOMPARE(app.files.operations, operations);
         QCOMPARE(texts(w), "Wake|D:\\BF|Level =1|Not A Listed Mod| 0.75 |110");
 
-        // OK sets the pass boxes: one Click for each real change only.
         QSignalSpy terrain(app.window->passBoxes[0], &ClickCheckBox::Click);
         QSignalSpy merge(app.window->passBoxes[1], &ClickCheckBox::Click);
         click(w.okButton);
         QCOMPARE(terrain.count() * 10 + merge.count(), 1);
-        QCOMPARE(app.window->configuration(),
-                 (Configuration{
-                     U"D:\\BF", U"Level =1", U"Not A Listed Mod", 0.75, {true, true, false}}));
+        const Configuration applied{
+            U"D:\\BF", U"Level =1", U"Not A Listed Mod", 0.75, {true, true, false}};
+        QCOMPARE(app.window->configuration(), applied);
         QVERIFY(app.window->passEntries[int(Pass::Merge)]->Checked());
         QVERIFY(!app.window->pathsDialog()->isLoaded());
-        QVERIFY(app.dialogs.boxes.isEmpty());
+        QCOMPARE(app.dialogs.boxes.size(), 3);
+
+        type(openPaths(app).gamePathBox, "C:\\Game");
+        QVERIFY(app.window->pathsDialog()->window()->close());
+        QVERIFY(!app.window->pathsDialog()->isLoaded());
+        QCOMPARE(texts(openPaths(app)), "(Current)|D:\\BF|Level =1|Not A Listed Mod|0.75|110");
+        QCOMPARE(app.window->configuration(), applied);
     }
 
     // The list and the boxes follow config.ini; what Save and Delete write is the core's.
     void savedSettingsInTheListAndTheBoxes() {
         TestApp app;
-        app.write("config.ini", kWake + kMidway + kBerlin);
+        const QByteArray big = record("Big", QByteArray(100000, 'x'), "l", "m", "000", "1");
+        const QByteArray saved = kWake + kMidway + kBerlin + big;
+        app.write("config.ini", saved);
         app.window->passEntries[int(Pass::Merge)]->trigger();
         PathsDialogWindow& w = openPaths(app);
-        QCOMPARE(rowsOf(w.savedList), QStringList({"(Current)", "Wake", "Midway", "Berlin"}));
+        QCOMPARE(rowsOf(w.savedList).join(','), "(Current),Wake,Midway,Berlin,Big");
+        chooseRow(w.savedList, 4); // whole, past the 32,767 characters of Qt's text boxes
+        QCOMPARE(w.gamePathBox->text().size(), 100000);
+        click(w.saveButton);
+        QCOMPARE(app.bytesOf("config.ini"), saved);
         chooseRow(w.savedList, 2);
         QCOMPARE(texts(w), "Midway|E:\\BF|Midway|DesertCombat|2|011");
         type(w.darknessBox, "2.50");
@@ -85,29 +86,17 @@ class PathsDialogTest : public QObject {
         click(w.saveButton); // a second record, shown as written
         QCOMPARE(rowsOf(w.savedList).last() + texts(w),
                  "cafécafé|E:\\BF|Midway|DesertCombat|2.5|011");
-        QVERIFY(app.bytesOf("config.ini").startsWith(kWake + kMidway + kBerlin + "[Save=caf\xE9]"));
+        QVERIFY(app.bytesOf("config.ini").startsWith(saved + "[Save=caf\xE9]"));
 
         chooseRow(w.savedList, 1);
         click(w.deleteButton); // row 0 shows the main window again, the name stays for a Save
-        QCOMPARE(rowsOf(w.savedList), QStringList({"(Current)", "Midway", "Berlin", "café"}));
+        QCOMPARE(rowsOf(w.savedList).join(','), "(Current),Midway,Berlin,Big,café");
         QCOMPARE(texts(w), "Wake||||1.5|010");
         click(w.deleteButton); // with row 0 nothing goes, and the boxes stay
         QCOMPARE(app.dialogs.boxes.size(), 1);
         QCOMPARE(texts(w), "Wake||||1.5|010");
         app.window->pathsDialog()->unload();
-        QCOMPARE(rowsOf(openPaths(app).savedList).size(), 4);
-    }
-
-    // Qt's text boxes hold 32,767 characters unless told otherwise.
-    void aLongValueIsShownAndSavedWhole() {
-        TestApp app;
-        const QByteArray big(100000, 'x');
-        app.write("config.ini", record("Big", big, "l", "m", "000", "1"));
-        PathsDialogWindow& w = openPaths(app);
-        chooseRow(w.savedList, 1);
-        QCOMPARE(w.gamePathBox->text().size(), big.size());
-        click(w.saveButton);
-        QCOMPARE(app.bytesOf("config.ini"), record("Big", big, "l", "m", "000", "1"));
+        QCOMPARE(rowsOf(openPaths(app).savedList).size(), 5);
     }
 
     // Only the length counts: the last 11 characters go, whatever they are.
