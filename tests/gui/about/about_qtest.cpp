@@ -17,9 +17,10 @@ class AboutTest : public QObject {
         TestApp app;
         for (int closing = 0; closing < 4; ++closing) {
             app.window->aboutEntry->trigger();
-            app.window->aboutEntry->trigger(); // shown already: the same window
             AboutWindow* w = app.window->aboutBox()->window();
-            QVERIFY(w && !w->parent() && w->icon->pixmap().size() == QSize(32, 32));
+            app.window->aboutEntry->trigger(); // shown already: the same window
+            QVERIFY(w == app.window->aboutBox()->window() && w->isVisible() && !w->parent() &&
+                    w->icon->pixmap().size() == QSize(32, 32));
             if (closing == 0)
                 QTest::mouseClick(w->okButton, Qt::LeftButton);
             else if (closing == 3)
