@@ -15,10 +15,8 @@ endforeach()
 # The program heard through the real screen reader: Orca speaks while the test drives the
 # program by keys (tests/gui/orca/orca_speech.py). It skips only where it could not keep its
 # Orca apart from the user's own.
-add_executable(program_for_orca tests/gui/orca/program_for_orca.cpp)
-target_link_libraries(program_for_orca PRIVATE umbrakit_test_support)
 add_test(NAME orca_speech
          COMMAND sh ${CMAKE_CURRENT_SOURCE_DIR}/tests/gui/orca/orca_session.sh
-                 $<TARGET_FILE:program_for_orca>)
+                 $<TARGET_FILE:umbrakit>)
 set_tests_properties(orca_speech PROPERTIES LABELS screen_reader TIMEOUT 120
                      SKIP_RETURN_CODE 77)

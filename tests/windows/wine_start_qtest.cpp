@@ -1,8 +1,5 @@
 // "&Go!" writes go.bat and hands it to Wine through the real SystemLauncher; the stand-in
 // BF1942.exe (UMBRAKIT_STAND_IN, built by ctest with the WINEPREFIX) records how cmd started it.
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include "gui/main_window/main_window.h"

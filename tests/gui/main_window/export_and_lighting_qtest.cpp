@@ -1,5 +1,4 @@
 // The export of lmList.dat and the lighting run as the user meets them; the bytes are the core's.
-#include <QDir>
 #include <QMenu>
 #include <QPushButton>
 #include <QtTest>

@@ -1,7 +1,6 @@
 // The main window: the grid as it shows the selection, the passes in step, the timer, the end.
 #include <QLabel>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QtTest>
 
 #include "gui/main_window/patch_grid.h"

@@ -3,7 +3,9 @@
 keys alone.
 
 Runs inside tests/gui/screen_reader_session.sh (an X display and the accessibility bus) and
-takes the program to drive, program_for_orca, as its argument. Orca is started with its debug
+takes the program to drive, the umbrakit binary, as its argument: a copy of it runs in a folder
+of its own, config.ini beside it, and a stand-in wine on its PATH takes the lighting run
+without running anything. Orca is started with its debug
 log, whose SPEECH OUTPUT lines hold what a user would hear, with or without a speech server.
 Keys go to the X server through xdotool, as a keyboard's would. There is no window manager on
 the display, so this script gives the focus back when a window closes, as one would.
@@ -104,8 +106,13 @@ class Session:
         self.prefs = os.path.join(self.dir, "orca")
         self.app = os.path.join(self.dir, "program")
         self.export = os.path.join(self.dir, "export")
-        for folder in (self.prefs, self.app, self.export):
+        self.bin = os.path.join(self.dir, "bin")
+        for folder in (self.prefs, self.app, self.export, self.bin):
             os.mkdir(folder)
+        shutil.copy(program, self.app)
+        with open(os.path.join(self.bin, "wine"), "w") as wine:
+            wine.write("#!/bin/sh\nexit 0\n")
+        os.chmod(os.path.join(self.bin, "wine"), 0o755)
         shutil.copy(os.path.join(HERE, "orca-customizations.py"), self.prefs)
         records = [
             ("Wake", "D:\\BF", "Wake", "BF1942", "True", "False", "False", "1.5"),
@@ -137,8 +144,9 @@ class Session:
         # The export's folder does not exist here, so its file dialog opens in the working
         # folder, with the offered name: Return saves there, and nothing need be typed.
         self.window = subprocess.Popen(
-            [self.program, self.app], cwd=self.export,
-            stdout=open(os.path.join(self.dir, "program.out"), "wb"), stderr=subprocess.STDOUT)
+            [os.path.join(self.app, os.path.basename(self.program))], cwd=self.export,
+            stdout=open(os.path.join(self.dir, "program.out"), "wb"), stderr=subprocess.STDOUT,
+            env=dict(os.environ, PATH=self.bin + os.pathsep + os.environ["PATH"]))
         self.main_window = self.find_window("Umbrakit", within=30)
 
     def stop(self):

@@ -1,5 +1,4 @@
 // The paths dialog through its controls; what its commands do to the values is the core's.
-#include <QSignalSpy>
 #include <QtTest>
 
 #include "platform/click_check_box.h"
