@@ -14,7 +14,8 @@ TEST_CASE("the program's path in the Exec and TryExec values") {
         {"/j/My Maps/u", R"("/j/My Maps/u")"}, {"/j/$HOME/u", R"("/j/\\$HOME/u")"},
         {"/j/\"hi\"/u", R"("/j/\\"hi\\"/u")"}, {"/j/`x`/u", R"("/j/\\`x\\`/u")"},
         {"/j/a\\b/u", R"("/j/a\\\\b/u")"},     {"/j/it's 50% off/u", R"("/j/it's 50%% off/u")"},
-        {"/j/a\nb\t/u", R"("/j/a\nb\t/u")"},   {"/j/(a);b|c&d/u", R"("/j/(a);b|c&d/u")"}};
+        {"/j/a\nb\t/u", R"("/j/a\nb\t/u")"},   {"/j/(a);b|c&d/u", R"("/j/(a);b|c&d/u")"},
+        {"/j/a\rb/u", R"("/j/a\rb/u")"}};
     for (const auto& [program, exec] : programAndExec)
         CHECK_MESSAGE(desktopExecValue(program) == exec, program);
     // TryExec is a plain path, never quoted; every placeholder is replaced, nothing else.
